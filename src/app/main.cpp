@@ -1,0 +1,63 @@
+// Zarpazo: a handball club manager of the Liga ASOBAL.
+
+#include "career/infopage.h"
+#include "common/messageboxdialogs.h"
+#include "common/theme.h"
+#include "navigator.h"
+#include "random.h"
+#include "store/gamestore.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+namespace {
+
+// The pristine database lies beside the program in a build, in the data folder when installed.
+QString pristineDatabase()
+{
+    const QString besideProgram = QCoreApplication::applicationDirPath() + QStringLiteral("/balonmanoX.mdb");
+    if (QFileInfo::exists(besideProgram))
+        return besideProgram;
+    const QString installed = QStandardPaths::locate(QStandardPaths::GenericDataLocation,
+                                                     QStringLiteral("zarpazo/balonmanoX.mdb"));
+    if (!installed.isEmpty())
+        return installed;
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../share/zarpazo/balonmanoX.mdb");
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("zarpazo"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Zarpazo"));
+    theme::apply(app);
+
+    // The career lives in the player's data folder and is used as found.
+    const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(dataFolder);
+    game::GameStore store(dataFolder + QStringLiteral("/balonmano.mdb"), pristineDatabase());
+    if (game::Result opened = store.open(); !opened) {
+        QMessageBox::critical(nullptr, QStringLiteral("Zarpazo"), opened.message());
+        return 1;
+    }
+
+    game::SystemRandom random;
+    ui::MessageBoxDialogs dialogs;
+    game::Context context{store, random, dialogs};
+
+    QMainWindow window;
+    window.setObjectName(QStringLiteral("MainWindow"));
+    window.resize(1280, 720);
+    window.setMinimumSize(1024, 640);
+    app::Navigator navigator(context, window);
+    QObject::connect(&navigator, &app::Navigator::finished, &app, &QApplication::quit);
+    navigator.showSplash();
+    window.show();
+    return app.exec();
+}

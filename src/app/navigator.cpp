@@ -1,0 +1,227 @@
+#include "navigator.h"
+
+#include "career/infopage.h"
+#include "career/mainmenu.h"
+#include "career/newcareerscreen.h"
+#include "career/preseasonscreen.h"
+#include "career/splashscreen.h"
+#include "career/weekpanel.h"
+#include "reports/calendarscreen.h"
+#include "stadium/ledgerscreen.h"
+#include "dialogs.h"
+#include "store/gamestore.h"
+#include "transfers/addyouthscreen.h"
+
+#include <QDesktopServices>
+#include <QMainWindow>
+#include <QStackedWidget>
+
+namespace app {
+
+Navigator::Navigator(game::Context context, QMainWindow &window)
+    : m_context(context), m_window(window), m_stack(new QStackedWidget(&window)),
+      m_openUrl([](const QUrl &url) { QDesktopServices::openUrl(url); })
+{
+    m_window.setCentralWidget(m_stack);
+}
+
+Navigator::~Navigator() = default;
+
+ui::WeekPanel *Navigator::weekPanel() const
+{
+    return m_panel;
+}
+
+QWidget *Navigator::current() const
+{
+    return m_stack->currentWidget();
+}
+
+void Navigator::show(QWidget *screen)
+{
+    if (m_stack->indexOf(screen) < 0)
+        m_stack->addWidget(screen);
+    m_stack->setCurrentWidget(screen);
+    m_window.setWindowTitle(screen->windowTitle().isEmpty() ? QStringLiteral("Zarpazo")
+                                                            : QStringLiteral("Zarpazo - ") + screen->windowTitle());
+}
+
+template<typename Screen>
+void Navigator::unload(QPointer<Screen> &screen)
+{
+    if (screen) {
+        m_stack->removeWidget(screen);
+        screen->hide();
+        screen->deleteLater();
+    }
+    screen.clear();
+}
+
+void Navigator::showSplash()
+{
+    if (!m_splash) {
+        m_splash = new ui::SplashScreen;
+        connect(m_splash, &ui::SplashScreen::finished, this, [this] {
+            showMenu();
+            unload(m_splash);
+        });
+    }
+    show(m_splash);
+    m_splash->start();
+}
+
+void Navigator::showMenu()
+{
+    // A menu reached from anywhere starts clean: a new career screen left over goes away.
+    unload(m_newCareer);
+    unload(m_preseason);
+    if (!m_menu) {
+        m_menu = new ui::MainMenu;
+        connect(m_menu, &ui::MainMenu::newCareerRequested, this, &Navigator::openNewCareer);
+        connect(m_menu, &ui::MainMenu::addYouthRequested, this, &Navigator::openAddYouth);
+        connect(m_menu, &ui::MainMenu::historyRequested, this, [this] { openInfo(int(ui::InfoPage::Kind::History)); });
+        connect(m_menu, &ui::MainMenu::informationRequested, this,
+                [this] { openInfo(int(ui::InfoPage::Kind::Handball)); });
+        connect(m_menu, &ui::MainMenu::instructionsRequested, this,
+                [this] { openInfo(int(ui::InfoPage::Kind::Instructions)); });
+        connect(m_menu, &ui::MainMenu::quitRequested, this, &Navigator::quitGame);
+    }
+    show(m_menu);
+}
+
+void Navigator::openNewCareer()
+{
+    if (!m_newCareer) {
+        m_newCareer = new ui::NewCareerScreen(m_context, &m_window);
+        connect(m_newCareer, &ui::NewCareerScreen::careerStarted, this, &Navigator::openPreseason);
+        connect(m_newCareer, &QDialog::rejected, this, [this] { unload(m_newCareer); });
+    }
+    m_newCareer->open();
+}
+
+void Navigator::openAddYouth()
+{
+    if (!m_addYouth) {
+        m_addYouth = new ui::AddYouthScreen(m_context, &m_window);
+        connect(m_addYouth, &QDialog::rejected, this, [this] { unload(m_addYouth); });
+    }
+    m_addYouth->open();
+}
+
+void Navigator::openInfo(int kind)
+{
+    const auto pageKind = static_cast<ui::InfoPage::Kind>(kind);
+    QPointer<ui::InfoPage> &page = pageKind == ui::InfoPage::Kind::Instructions ? m_instructions
+                                   : pageKind == ui::InfoPage::Kind::History    ? m_history
+                                                                                : m_handball;
+    if (!page)
+        page = new ui::InfoPage(pageKind, &m_window);
+    if (pageKind == ui::InfoPage::Kind::Instructions) {
+        page->resize(m_window.size() * 0.9);
+        page->show();
+        page->raise();
+        return;
+    }
+    // The game does not test the connection: the warning comes every time.
+    m_context.dialogs.tell(tr("Es Necesario Tener Conexion a Intetnet"));
+    m_openUrl(pageKind == ui::InfoPage::Kind::History ? ui::InfoPage::historyPage() : ui::InfoPage::handballSite());
+    page->resize(720, 420);
+    page->open();
+}
+
+void Navigator::openPreseason()
+{
+    if (m_newCareer)
+        m_newCareer->hide();
+    unload(m_newCareer);
+    unload(m_preseason);
+    m_preseason = new ui::PreseasonScreen(m_context);
+    connect(m_preseason, &ui::PreseasonScreen::seasonPlanned, this, &Navigator::openWeekPanel);
+    connect(m_preseason, &ui::PreseasonScreen::backToMenu, this, &Navigator::showMenu);
+    show(m_preseason);
+    // The menu is closed while a career runs; it is made afresh when the player comes back.
+    unload(m_menu);
+}
+
+void Navigator::unloadWeekScreens()
+{
+    unload(m_newCareer);
+    unload(m_addYouth);
+    unload(m_preseason);
+    unload(m_ledger);
+    unload(m_calendar);
+    unload(m_instructions);
+    unload(m_history);
+    unload(m_handball);
+}
+
+void Navigator::openWeekPanel()
+{
+    // Every load of the panel opens a new week: a fresh panel each time.
+    unloadWeekScreens();
+    if (m_panel)
+        m_panel->retire();
+    unload(m_panel);
+    m_panel = new ui::WeekPanel(m_context, m_events);
+    using Destination = ui::WeekPanel::Destination;
+    for (Destination destination : {Destination::CallUp, Destination::Tactics, Destination::Standings,
+                                    Destination::Results, Destination::Squad, Destination::Market,
+                                    Destination::Stadium})
+        m_panel->setAvailable(destination, false);
+    connect(m_panel, &ui::WeekPanel::destinationRequested, this, [this](Destination destination) {
+        if (destination == Destination::Ledger)
+            openLedger();
+        else if (destination == Destination::Calendar)
+            openCalendar();
+    });
+    connect(m_panel, &ui::WeekPanel::leaveRequested, this, &Navigator::leaveCareer);
+    show(m_panel);
+    m_panel->openWeek();
+}
+
+void Navigator::backToPanel()
+{
+    if (m_panel)
+        show(m_panel);
+    unload(m_ledger);
+    unload(m_calendar);
+}
+
+void Navigator::openLedger()
+{
+    unload(m_ledger);
+    m_ledger = new ui::LedgerScreen(m_context, m_panel ? m_panel->week() : 0);
+    connect(m_ledger, &ui::LedgerScreen::closeRequested, this, &Navigator::backToPanel);
+    show(m_ledger);
+}
+
+void Navigator::openCalendar()
+{
+    unload(m_calendar);
+    m_calendar = new ui::CalendarScreen(m_context, m_panel ? m_panel->week() : 0);
+    connect(m_calendar, &ui::CalendarScreen::closeRequested, this, &Navigator::backToPanel);
+    show(m_calendar);
+}
+
+void Navigator::leaveCareer()
+{
+    // Leaving the career throws it away and closes every screen of it; a new career gets a
+    // freshly opened panel.
+    if (game::Result restored = m_context.store.restore(); !restored)
+        m_context.dialogs.tell(restored.message(), game::Dialogs::Icon::Exclamation);
+    unloadWeekScreens();
+    if (m_panel)
+        m_panel->retire();
+    unload(m_panel);
+    showMenu();
+}
+
+void Navigator::quitGame()
+{
+    // Leaving the game throws the career away: the working file goes back to the original.
+    if (game::Result restored = m_context.store.restore(); !restored)
+        m_context.dialogs.tell(restored.message(), game::Dialogs::Icon::Exclamation);
+    emit finished();
+}
+
+} // namespace app

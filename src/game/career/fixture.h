@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+#include <optional>
+
+namespace game {
+
+class GameStore;
+
+// The user's match of one week, as the panel shows it and the other screens receive it.
+struct Fixture
+{
+    enum class Type { Friendly, League };
+
+    int week = 0;
+    Type type = Type::League;
+    int idpartido = 0;   // 1 to 5 for a friendly (its slot), else the league fixture
+    int round = 0;       // the league round; 0 for a friendly
+    int homeId = 0;
+    QString homeName;
+    int awayId = 0;
+    QString awayName;
+    int rivalId = 0;
+    QDate date;
+
+    bool isLeague() const { return type == Type::League; }
+    // "LIGA" or "AMISTOSO", as the panel labels the week.
+    QString typeText() const;
+};
+
+// Finds the match of a week: through the calendar to a friendly of the pre-season or to a
+// league fixture, whose template positions become clubs through last season's places.
+// Reads only, so it can run at any repaint.
+std::optional<Fixture> fixtureOfWeek(GameStore &store, int week, int userClub);
+
+// A date of the store (ISO text) as the game shows it: 21/08/2004.
+QString shownDate(const QDate &date);
+
+} // namespace game

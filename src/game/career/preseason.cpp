@@ -1,0 +1,212 @@
+#include "preseason.h"
+
+#include "dialogs.h"
+#include "random.h"
+#include "store/gamestore.h"
+
+#include <QObject>
+
+namespace game {
+
+namespace {
+
+// The friendlies are played on the Sundays of August; the year is always 2004.
+const std::array<QDate, Preseason::kSlots> kSlotDates{QDate(2004, 8, 1), QDate(2004, 8, 7), QDate(2004, 8, 14),
+                                                      QDate(2004, 8, 21), QDate(2004, 8, 28)};
+
+// The pools of youths and of released players are never put on the market.
+constexpr int kYouthPool = 84;
+constexpr int kReleasedPool = 85;
+
+} // namespace
+
+const std::array<Preseason::Country, 18> &Preseason::countries()
+{
+    static const std::array<Country, 18> list{{
+        {1, "cmdEspaña", u"ESPAÑA"},
+        {2, "cmdAlemania", u"ALEMANIA"},
+        {3, "cmdFrancia", u"FRANCIA"},
+        {4, "cmdItalia", u"ITALIA"},
+        {5, "cmdUcrania", u"UCRANIA"},
+        {6, "cmdIslandia", u"ISLANDIA"},
+        {7, "cmdDinamarca", u"DINAMARCA"},
+        {8, "cmdEslovenia", u"ESLOVENIA"},
+        {9, "cmdSuecia", u"SUECIA"},
+        {10, "cmdCroacia", u"CROACIA"},
+        {11, "cmdRusia", u"RUSIA"},
+        {12, "cmdHungria", u"HUNGRÍA"},
+        {13, "cmdCheca", u"REPÚBLICA CHECA"},
+        {14, "cmdSuiza", u"SUIZA"},
+        {15, "cmdGrecia", u"GRECIA"},
+        {16, "cmdTurquia", u"TURQUÍA"},
+        {17, "cmdPortugal", u"PORTUGAL"},
+        {18, "cmdSerbiaMontenegro", u"SERBIA-MONTENEGRO"},
+    }};
+    return list;
+}
+
+QDate Preseason::slotDate(int slot)
+{
+    return slot >= 0 && slot < kSlots ? kSlotDates[static_cast<std::size_t>(slot)] : QDate();
+}
+
+void Preseason::begin()
+{
+    GameStore &store = m_context.store;
+    m_dealt = 0;
+    m_slots = {};
+    const Result result = store.run([&] {
+        GameStore::Query career = store.query("select nombre, apellidos, idequipo, NombreEquipo from datos_jugador");
+        if (career.next()) {
+            m_manager = career.text(0) + QLatin1Char(' ') + career.text(1);
+            m_club = career.integer(2);
+            m_clubName = career.text(3);
+        }
+        store.execute("update datos_jugador set jornada = 0");
+    });
+    if (!result)
+        m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
+}
+
+QStringList Preseason::clubsOf(int countryCode)
+{
+    QStringList names;
+    m_context.store.attempt([&] {
+        // Only Spain's list leaves a club out, the user's own.
+        GameStore::Query clubs = m_context.store.query(
+            "select NombreEquipo from equipos where codpais = ? and idequipo <> ? order by idequipo", countryCode,
+            countryCode == 1 ? m_club : 0);
+        while (clubs.next())
+            names << clubs.text(0);
+    });
+    return names;
+}
+
+int Preseason::choose(const QString &clubName)
+{
+    if (m_dealt >= kSlots)
+        return -1;
+    GameStore &store = m_context.store;
+    const int slot = m_dealt;
+    const int number = slot + 1;
+    Slot filled;
+    const Result result = store.run([&] {
+        const int rival = static_cast<int>(store.integer("select idequipo from equipos where NombreEquipo = ?", clubName));
+        if (rival == 0)
+            return;
+        // The first four are played away; the fifth, the presentation, at home.
+        const bool atHome = number == kSlots;
+        store.execute("insert into pretemporada values (?, ?, ?, ?)", number, atHome ? m_club : rival,
+                      atHome ? rival : m_club, kSlotDates[std::size_t(slot)].toString(Qt::ISODate));
+        GameStore::Query readBack = store.query(
+            "select l.NombreEquipo, v.NombreEquipo, p.fecha from pretemporada p"
+            " join equipos l on l.idequipo = p.equipo_local join equipos v on v.idequipo = p.equipo_visitante"
+            " where p.idpartido = ?",
+            number);
+        if (readBack.next()) {
+            filled.state = Slot::State::Chosen;
+            filled.home = readBack.text(0);
+            filled.away = readBack.text(1);
+            filled.date = QDate::fromString(readBack.text(2), Qt::ISODate);
+        }
+    });
+    if (!result) {
+        m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
+        return -1;
+    }
+    if (filled.state != Slot::State::Chosen)
+        return -1;
+    m_slots[std::size_t(slot)] = filled;
+    m_dealt = number;
+    return slot;
+}
+
+bool Preseason::decline()
+{
+    if (m_dealt >= kSlots)
+        return false;
+    Slot &slot = m_slots[std::size_t(m_dealt)];
+    slot = Slot{Slot::State::Declined, QString(), QString(), QDate()};
+    ++m_dealt;
+    return true;
+}
+
+bool Preseason::takeBack()
+{
+    if (m_dealt == 0)
+        return false;
+    const int number = m_dealt;
+    // A declined slot has no row, and nothing is deleted.
+    const Result result = m_context.store.run(
+        [&] { m_context.store.execute("delete from pretemporada where idpartido = ?", number); });
+    if (!result) {
+        m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
+        return false;
+    }
+    m_slots[std::size_t(number - 1)] = Slot{};
+    --m_dealt;
+    return true;
+}
+
+bool Preseason::proceed()
+{
+    if (m_dealt != kSlots) {
+        m_context.dialogs.tell(QObject::tr("Selecciona 5 Partidos de Pretemporada, Jugados o No Jugados"),
+                               Dialogs::Icon::Information);
+        return false;
+    }
+    const Result result = m_context.store.run([&] {
+        buildCalendar();
+        drawMarket();
+    });
+    if (!result) {
+        m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
+        return false;
+    }
+    return true;
+}
+
+void Preseason::buildCalendar()
+{
+    GameStore &store = m_context.store;
+    struct Match
+    {
+        int id;
+        QString date;
+    };
+    std::vector<Match> weeks;
+    // The friendlies actually played come first; a declined slot takes no week.
+    GameStore::Query friendlies = store.query("select idpartido, fecha from pretemporada order by idpartido");
+    while (friendlies.next())
+        weeks.push_back({friendlies.integer(0), friendlies.text(1)});
+    // Then the club's thirty league matches, in round order.
+    GameStore::Query league = store.query(
+        "select idpartido, fecha from liga_asobal"
+        " where pos_equipo_local = (select puesto_anterior from asobal where teams = ?1)"
+        " or pos_equipo_visitante = (select puesto_anterior from asobal where teams = ?1)"
+        " order by jornada, idpartido",
+        m_club);
+    while (league.next())
+        weeks.push_back({league.integer(0), league.text(1)});
+
+    int week = 0;
+    for (const Match &match : weeks)
+        store.execute("insert into calendario values (?, ?, ?)", ++week, match.id, match.date);
+}
+
+void Preseason::drawMarket()
+{
+    // Players of other clubs, drawn at random, are put on the market. A draw that hits a pool
+    // or the user's own club lists nobody, and a player drawn twice stays listed once. Listed
+    // players stay listed from season to season, so the market grows.
+    GameStore &store = m_context.store;
+    const int players = static_cast<int>(store.integer("select count(*) from jugadores"));
+    for (int draw = 0; draw < kMarketDraws; ++draw) {
+        const int id = m_context.random.draw(players);
+        store.execute("update jugadores set venta = 1 where idjugador = ? and idequipo <> ? and idequipo <> ?"
+                      " and idequipo <> ?",
+                      id, kYouthPool, kReleasedPool, m_club);
+    }
+}
+
+} // namespace game

@@ -1,0 +1,45 @@
+#include "crestbutton.h"
+
+#include "common/artwork.h"
+
+#include <QMouseEvent>
+
+namespace ui {
+
+CrestButton::CrestButton(int clubId, const QString &caption, int side, QWidget *parent)
+    : QLabel(parent), m_clubId(clubId), m_caption(caption)
+{
+    setPixmap(artwork::crest(clubId, QSize(side - 12, side - 12)));
+    setAlignment(Qt::AlignCenter);
+    setFixedSize(side, side);
+    setCursor(Qt::PointingHandCursor);
+    setToolTip(caption);
+    setChosen(false);
+}
+
+void CrestButton::setChosen(bool chosen)
+{
+    setStyleSheet(chosen ? QStringLiteral("background: rgba(232,163,61,70); border: 2px solid #e8a33d; border-radius: 10px;")
+                         : QStringLiteral("background: transparent; border: 2px solid transparent; border-radius: 10px;"));
+}
+
+void CrestButton::enterEvent(QEnterEvent *event)
+{
+    QLabel::enterEvent(event);
+    emit hovered(m_caption);
+}
+
+void CrestButton::leaveEvent(QEvent *event)
+{
+    QLabel::leaveEvent(event);
+    emit left();
+}
+
+void CrestButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        emit clicked(m_clubId, m_caption);
+    QLabel::mouseReleaseEvent(event);
+}
+
+} // namespace ui

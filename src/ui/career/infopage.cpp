@@ -1,0 +1,76 @@
+#include "infopage.h"
+
+#include "common/theme.h"
+
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+namespace ui {
+
+const QUrl &InfoPage::handballSite()
+{
+    static const QUrl site(QStringLiteral("https://es.wikipedia.org/wiki/Balonmano"));
+    return site;
+}
+
+QUrl InfoPage::historyPage()
+{
+    QUrl page = handballSite();
+    page.setFragment(QStringLiteral("Historia"));
+    return page;
+}
+
+InfoPage::InfoPage(Kind kind, QWidget *parent) : QDialog(parent), m_kind(kind)
+{
+    m_page = new QTextBrowser;
+    m_page->setObjectName(QStringLiteral("pagina"));
+    m_page->setOpenExternalLinks(true);
+
+    QString heading;
+    switch (kind) {
+    case Kind::Instructions: {
+        setObjectName(QStringLiteral("Instrucciones"));
+        setWindowTitle(tr("Instrucciones"));
+        heading = tr("INSTRUCCIONES");
+        QFile help(QStringLiteral(":/content/instrucciones.htm"));
+        if (help.open(QIODevice::ReadOnly))
+            m_page->setHtml(QString::fromUtf8(help.readAll()));
+        break;
+    }
+    case Kind::History:
+    case Kind::Handball: {
+        const bool history = kind == Kind::History;
+        setObjectName(history ? QStringLiteral("Historia") : QStringLiteral("infoHandball"));
+        setWindowTitle(history ? tr("Historia de Balonmano - Wikipedia") : tr("Balonmano - Wikipedia"));
+        heading = history ? tr("HISTORIA DEL BALONMANO") : tr("INFORMACIÓN SOBRE BALONMANO");
+        const QUrl address = history ? historyPage() : handballSite();
+        m_page->setHtml(tr("<div style='font-family: sans-serif; margin: 24px;'>"
+                           "<h2>%1</h2>"
+                           "<p>La página se ha abierto en tu navegador de Internet.</p>"
+                           "<p>Si no aparece, puedes abrirla tú mismo en esta dirección:<br>"
+                           "<a href='%2'>%2</a></p></div>")
+                            .arg(windowTitle(), address.toString()));
+        break;
+    }
+    }
+
+    auto *back = new QPushButton(tr("<- VOLVER"));
+    back->setObjectName(QStringLiteral("cmdVOLVER"));
+    connect(back, &QPushButton::clicked, this, &QDialog::hide);
+
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(back);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 16, 20, 16);
+    layout->addWidget(theme::heading(heading));
+    layout->addWidget(m_page, 1);
+    layout->addLayout(buttons);
+}
+
+} // namespace ui

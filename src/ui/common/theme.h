@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QColor>
+
+class QApplication;
+class QLabel;
+class QWidget;
+
+// The look of the game: deep navy screens, light text, amber buttons, bold headings.
+namespace theme {
+
+inline const QColor kNavy{15, 30, 60};
+inline const QColor kAmber{232, 163, 61};
+
+// Sets the fonts and the style sheet on the whole application.
+void apply(QApplication &app);
+
+// A screen heading in the game's style ("INTRODUCE NOMBRE Y EQUIPO").
+QLabel *heading(const QString &text, QWidget *parent = nullptr);
+
+} // namespace theme

@@ -1,0 +1,236 @@
+#include "ledgerscreen.h"
+
+#include "common/indexedlabel.h"
+#include "common/theme.h"
+#include "money.h"
+#include "store/gamestore.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace ui {
+
+namespace {
+
+struct Line
+{
+    const char *label;
+    const char *caption;
+};
+
+const Line kIncome[] = {{"lblTaquilla", "TAQUILLA"},       {"lblPublicidad", "PUBLICIDAD"},
+                        {"lblTelevision", "TELEVISIÓN"},   {"lblVenta", "VENTA JUGADORES"},
+                        {"lblTiendas", "TIENDAS + CAFETERIAS"}, {"lblTI", "TOTAL INGRESOS"}};
+const Line kSpending[] = {{"lblContratar", "CONTRATAR JUGADOR"}, {"lblRescindir", "RESCISIÓN JUGADORES"},
+                          {"lblSalario", "SALARIO JUGADORES"},   {"lblHospitales", "HOSPITALES"},
+                          {"lblEmpleados", "SALARIO EMPLEADOS"}, {"lblRemodelar", "REMODELAR ESTADIO"},
+                          {"lblTG", "TOTAL GASTOS"}};
+
+QLabel *captionLabel(const char *text, bool total = false)
+{
+    auto *label = new QLabel(QString::fromUtf8(text));
+    label->setStyleSheet(total ? QStringLiteral("color: #e8a33d; font-weight: bold;") : QStringLiteral("color: #b9c3d8;"));
+    return label;
+}
+
+QLabel *amountLabel(const char *name, int index)
+{
+    QLabel *label = indexed::label(name, index);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setMinimumWidth(130);
+    label->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold;"));
+    return label;
+}
+
+void addLines(QGridLayout *grid, int column, const char *heading, const Line *lines, int count, int index)
+{
+    auto *title = new QLabel(QString::fromUtf8(heading));
+    title->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold; font-size: 15px;"));
+    grid->addWidget(title, 0, column, 1, 2);
+    for (int i = 0; i < count; ++i) {
+        const bool total = i == count - 1;
+        grid->addWidget(captionLabel(lines[i].caption, total), i + 1, column);
+        grid->addWidget(amountLabel(lines[i].label, index), i + 1, column + 1);
+    }
+}
+
+} // namespace
+
+LedgerScreen::LedgerScreen(game::Context context, int currentWeek, QWidget *parent)
+    : QWidget(parent), m_context(context), m_browser(currentWeek)
+{
+    setObjectName(QStringLiteral("Caja"));
+    setWindowTitle(tr("LA CAJA"));
+    setAttribute(Qt::WA_StyledBackground);
+    setStyleSheet(QStringLiteral("QWidget#Caja { background-color: #0f1e3c; }"));
+
+    m_week = buildFrame("FSemana", tr("Semana"), 0);
+    m_season = buildFrame("FTemp", tr("Temporada"), 1);
+    m_season->setVisible(false);
+
+    // The week before, shown with the week.
+    auto *before = new QGridLayout;
+    auto *beforeTitle = new QLabel(tr("SEMANA ANTERIOR"));
+    beforeTitle->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold; font-size: 15px;"));
+    before->addWidget(beforeTitle, 0, 0, 1, 2);
+    const std::pair<const char *, const char *> previous[] = {
+        {"lblIngresosAnterior", "INGRESOS"}, {"lblGastosAnterior", "GASTOS"}, {"lblCajaAnterior", "CAJA"}};
+    int row = 1;
+    for (const auto &[name, caption] : previous) {
+        before->addWidget(captionLabel(caption), row, 0);
+        auto *amount = new QLabel;
+        amount->setObjectName(QString::fromLatin1(name));
+        amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        amount->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold;"));
+        before->addWidget(amount, row++, 1);
+    }
+    static_cast<QVBoxLayout *>(m_week->layout())->addLayout(before);
+
+    m_weekBox = new QLineEdit(QStringLiteral("Act"));
+    m_weekBox->setObjectName(QStringLiteral("txtSemana"));
+    m_weekBox->setReadOnly(true);
+    m_weekBox->setAlignment(Qt::AlignCenter);
+    m_weekBox->setFixedWidth(70);
+    auto *less = new QPushButton(QStringLiteral("<"));
+    less->setObjectName(QStringLiteral("cmdmenos"));
+    less->setToolTip(tr("Semana anterior"));
+    less->setMinimumWidth(44);
+    auto *more = new QPushButton(QStringLiteral(">"));
+    more->setObjectName(QStringLiteral("cmdmas"));
+    more->setToolTip(tr("Semana siguiente"));
+    more->setMinimumWidth(44);
+    connect(less, &QPushButton::clicked, this, [this] {
+        m_browser.back();
+        fill();
+    });
+    connect(more, &QPushButton::clicked, this, [this] {
+        m_browser.forward();
+        fill();
+    });
+    auto *seasonButton = new QPushButton(tr("INGRESOS + GASTOS TEMPORADA"));
+    seasonButton->setObjectName(QStringLiteral("Command1"));
+    seasonButton->setProperty("role", QStringLiteral("secondary"));
+    connect(seasonButton, &QPushButton::clicked, this, [this] {
+        m_season->setVisible(true);
+        m_week->setVisible(false);
+    });
+    auto *weekButton = new QPushButton(tr("INGRESOS + GASTOS POR SEMANA"));
+    weekButton->setObjectName(QStringLiteral("cmdSemana"));
+    weekButton->setProperty("role", QStringLiteral("secondary"));
+    connect(weekButton, &QPushButton::clicked, this, [this] {
+        m_week->setVisible(true);
+        m_season->setVisible(false);
+    });
+    auto *back = new QPushButton(tr("<- VOLVER"));
+    back->setObjectName(QStringLiteral("cmdVOLVER"));
+    connect(back, &QPushButton::clicked, this, &LedgerScreen::closeRequested);
+
+    auto *stepper = new QHBoxLayout;
+    stepper->addWidget(new QLabel(tr("SEMANA")));
+    stepper->addWidget(less);
+    stepper->addWidget(m_weekBox);
+    stepper->addWidget(more);
+    stepper->addStretch();
+    stepper->addWidget(weekButton);
+    stepper->addWidget(seasonButton);
+
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(back);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(28, 16, 28, 16);
+    layout->setSpacing(12);
+    layout->addWidget(theme::heading(tr("LA CAJA")));
+    layout->addLayout(stepper);
+    layout->addWidget(m_week, 1);
+    layout->addWidget(m_season, 1);
+    layout->addLayout(buttons);
+    fill();
+}
+
+QGroupBox *LedgerScreen::buildFrame(const char *name, const QString &caption, int index)
+{
+    auto *frame = new QGroupBox(caption);
+    frame->setObjectName(QString::fromLatin1(name));
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(18);
+    grid->setVerticalSpacing(8);
+    addLines(grid, 0, "INGRESOS", kIncome, int(std::size(kIncome)), index);
+    addLines(grid, 3, "GASTOS", kSpending, int(std::size(kSpending)), index);
+    grid->setColumnMinimumWidth(2, 40);
+
+    auto *current = new QGridLayout;
+    auto *title = new QLabel(index == 0 ? tr("SEMANA ACTUAL") : tr("TEMPORADA ACTUAL"));
+    title->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold; font-size: 15px;"));
+    current->addWidget(title, 0, 0, 1, 2);
+    const std::pair<const char *, const char *> totals[] = {{"lblISA", "INGRESOS"}, {"lblGSA", "GASTOS"}, {"lblCA", "CAJA"}};
+    int row = 1;
+    for (const auto &[label, text] : totals) {
+        current->addWidget(captionLabel(text), row, 0);
+        current->addWidget(amountLabel(label, index), row++, 1);
+    }
+
+    auto *totalsRow = new QHBoxLayout;
+    totalsRow->addLayout(current);
+    totalsRow->addStretch();
+
+    auto *layout = new QVBoxLayout(frame);
+    layout->addLayout(grid);
+    layout->addSpacing(10);
+    layout->addLayout(totalsRow);
+    return frame;
+}
+
+void LedgerScreen::setAmount(const char *label, int index, qint64 amount)
+{
+    if (QLabel *widget = indexed::find(this, QString::fromLatin1(label), index))
+        widget->setText(game::euros(amount));
+}
+
+void LedgerScreen::fill()
+{
+    m_weekBox->setText(m_browser.weekText());
+    game::Ledger ledger(m_context.store);
+    m_context.store.attempt([&] {
+        const int viewed = m_browser.viewedWeek();
+        const game::Ledger::Row week = ledger.row(viewed).value_or(game::Ledger::Row{});
+        const qint64 weekValues[] = {week.taquilla, week.publicidad, week.television, week.ventaJugadores,
+                                     week.tiendas, week.ingresos, week.fichajes, week.despidos,
+                                     week.salarios, week.hospitales, week.empleados, week.remodelaciones,
+                                     week.gastos};
+        const game::Ledger::Row season = ledger.seasonTotals();
+        const qint64 seasonValues[] = {season.taquilla, season.publicidad, season.television, season.ventaJugadores,
+                                       season.tiendas, season.ingresos, season.fichajes, season.despidos,
+                                       season.salarios, season.hospitales, season.empleados, season.remodelaciones,
+                                       season.gastos};
+        int i = 0;
+        for (const Line &line : kIncome) {
+            setAmount(line.label, 0, weekValues[i]);
+            setAmount(line.label, 1, seasonValues[i++]);
+        }
+        for (const Line &line : kSpending) {
+            setAmount(line.label, 0, weekValues[i]);
+            setAmount(line.label, 1, seasonValues[i++]);
+        }
+        setAmount("lblISA", 0, week.ingresos);
+        setAmount("lblGSA", 0, week.gastos);
+        setAmount("lblCA", 0, week.caja);
+        setAmount("lblISA", 1, season.ingresos);
+        setAmount("lblGSA", 1, season.gastos);
+        // The season's cash is the balance of the earliest week on file.
+        setAmount("lblCA", 1, ledger.firstBalance());
+
+        const std::optional<game::Ledger::Row> before = ledger.row(viewed - 1);
+        findChild<QLabel *>(QStringLiteral("lblIngresosAnterior"))->setText(game::euros(before ? before->ingresos : 0));
+        findChild<QLabel *>(QStringLiteral("lblGastosAnterior"))->setText(game::euros(before ? before->gastos : 0));
+        findChild<QLabel *>(QStringLiteral("lblCajaAnterior"))->setText(game::euros(before ? before->caja : 0));
+    });
+}
+
+} // namespace ui

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "context.h"
+#include "stadium/ledger.h"
+
+#include <QWidget>
+
+class QGroupBox;
+class QLineEdit;
+
+namespace ui {
+
+// "LA CAJA": the money of one week, or the sums of the season, with the week before.
+class LedgerScreen : public QWidget
+{
+    Q_OBJECT
+
+public:
+    LedgerScreen(game::Context context, int currentWeek, QWidget *parent = nullptr);
+
+signals:
+    void closeRequested();
+
+private:
+    QGroupBox *buildFrame(const char *name, const QString &caption, int index);
+    void fill();
+    void setAmount(const char *label, int index, qint64 amount);
+
+    game::Context m_context;
+    game::LedgerBrowser m_browser;
+    QGroupBox *m_week;
+    QGroupBox *m_season;
+    QLineEdit *m_weekBox;
+};
+
+} // namespace ui

@@ -1,0 +1,133 @@
+#include "career/weekopening.h"
+#include "careerfixture.h"
+#include "money.h"
+#include "stadium/ledger.h"
+
+using game::Ledger;
+
+class LedgerTest : public CareerTest
+{
+protected:
+    void SetUp() override
+    {
+        CareerTest::SetUp();
+        startCareer();
+        planSeason(0);
+        ASSERT_TRUE(game::WeekOpening(*m_context).open().has_value());
+        m_opening = *Ledger(*m_store).row(1);
+    }
+
+    Ledger::Row m_opening;
+};
+
+struct Posting {
+    friend void PrintTo(const Posting &c, std::ostream *out) { *out << c.label; }
+    const char *label;
+    void (*post)(Ledger &, int week, qint64 amount);
+    const char *column;
+    int sign; // +1 income, -1 expense
+};
+
+class LedgerPosting : public LedgerTest, public ::testing::WithParamInterface<Posting>
+{};
+
+// Guards: a posting that moves the balance without its column or its total, or the wrong way.
+TEST_P(LedgerPosting, movesItsColumnItsTotalAndTheBalanceTogether)
+{
+    Ledger ledger(*m_store);
+    ASSERT_TRUE(m_store->run([&] { GetParam().post(ledger, 1, 12345); }).ok());
+    const Ledger::Row row = *ledger.row(1);
+    const std::string column = GetParam().column;
+    EXPECT_EQ(m_store->integer("select " + column + " from caja where semana = 1"),
+              column == "Gastos_Fichas" ? m_opening.salarios + 12345 : 12345);
+    EXPECT_EQ(row.caja, m_opening.caja + GetParam().sign * 12345);
+    EXPECT_EQ(row.ingresos, m_opening.ingresos + (GetParam().sign > 0 ? 12345 : 0));
+    EXPECT_EQ(row.gastos, m_opening.gastos + (GetParam().sign < 0 ? 12345 : 0));
+    // The budget never sees the postings; the next week opens from it.
+    EXPECT_EQ(ledger.budget(kClub), m_opening.caja);
+
+    // A week without a row changes nothing.
+    const QString before = dump("caja");
+    ASSERT_TRUE(m_store->run([&] { GetParam().post(ledger, 9, 500); }).ok());
+    EXPECT_EQ(dump("caja"), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Postings, LedgerPosting,
+    ::testing::Values(
+        Posting{"gate", [](Ledger &l, int w, qint64 a) { l.postGateAndBoards(w, a, 0); }, "ingresos_Taquilla", 1},
+        Posting{"boards", [](Ledger &l, int w, qint64 a) { l.postGateAndBoards(w, 0, a); }, "ingresos_publi", 1},
+        Posting{"cafeterias", [](Ledger &l, int w, qint64 a) { l.postCafeterias(w, a); }, "Ingresos_Tienda", 1},
+        Posting{"shop", [](Ledger &l, int w, qint64 a) { l.postClubShop(w, a); }, "Ingresos_Tienda", 1},
+        Posting{"sale", [](Ledger &l, int w, qint64 a) { l.postSale(w, a); }, "Ingresos_Venta_Jugador", 1},
+        Posting{"signing", [](Ledger &l, int w, qint64 a) { l.postSigning(w, a); }, "Gastos_Fichajes", -1},
+        Posting{"dismissal", [](Ledger &l, int w, qint64 a) { l.postDismissal(w, a); }, "Gastos_Despido", -1},
+        Posting{"works", [](Ledger &l, int w, qint64 a) { l.postWorks(w, a); }, "Gastos_Remodelaciones", -1}),
+    [](const auto &info) { return std::string(info.param.label); });
+
+TEST_F(LedgerTest, televisionPaysItsFixedFee)
+{
+    Ledger ledger(*m_store);
+    ASSERT_TRUE(m_store->run([&] { ledger.postTelevision(1); }).ok());
+    const Ledger::Row row = *ledger.row(1);
+    EXPECT_EQ(row.television, 450000);
+    EXPECT_EQ(row.ingresos, 450000);
+    EXPECT_EQ(row.caja, m_opening.caja + 450000);
+}
+
+// Guards: income of one week carried into the next week's opening balance.
+TEST_F(LedgerTest, eachWeekOpensFromTheBudgetNotFromLastWeeksBalance)
+{
+    Ledger ledger(*m_store);
+    ASSERT_TRUE(m_store->run([&] { ledger.postGateAndBoards(1, 25000, 10500); }).ok());
+    ASSERT_TRUE(game::WeekOpening(*m_context).open().has_value());
+    const Ledger::Row second = *ledger.row(2);
+    EXPECT_EQ(second.caja, m_opening.caja - m_opening.gastos);
+    EXPECT_EQ(second.ingresos, 0);
+
+    const Ledger::Row season = ledger.seasonTotals();
+    EXPECT_EQ(season.taquilla, 25000);
+    EXPECT_EQ(season.publicidad, 10500);
+    EXPECT_EQ(season.ingresos, 35500);
+    EXPECT_EQ(season.salarios, 2 * m_opening.salarios);
+    EXPECT_EQ(season.empleados, 2000);
+    EXPECT_EQ(season.gastos, 2 * m_opening.gastos);
+    EXPECT_EQ(season.hospitales, 0);
+    // The season's cash is the earliest week's balance.
+    EXPECT_EQ(ledger.firstBalance(), m_opening.caja + 35500);
+}
+
+TEST(LedgerBrowserSteps, staysBetweenWeekOneAndTheCurrentWeek)
+{
+    game::LedgerBrowser browser(3);
+    EXPECT_EQ(browser.weekText(), QStringLiteral("Act"));
+    browser.forward();
+    EXPECT_EQ(browser.viewedWeek(), 3);
+    EXPECT_EQ(browser.weekText(), QStringLiteral("Act"));
+    browser.back();
+    EXPECT_EQ(browser.weekText(), QStringLiteral("2"));
+    browser.back();
+    browser.back();
+    EXPECT_EQ(browser.viewedWeek(), 1);
+    EXPECT_EQ(browser.weekText(), QStringLiteral("1"));
+    browser.forward();
+    browser.forward();
+    EXPECT_EQ(browser.weekText(), QStringLiteral("Act"));
+
+    game::LedgerBrowser first(1);
+    first.back();
+    EXPECT_EQ(first.weekText(), QStringLiteral("Act"));
+}
+
+TEST(MoneyRounding, roundsHalfToEvenAndShowsEurosWithoutSeparators)
+{
+    EXPECT_EQ(game::roundHalfEven(5, 2), 2);
+    EXPECT_EQ(game::roundHalfEven(7, 2), 4);
+    EXPECT_EQ(game::roundHalfEven(-5, 2), -2);
+    EXPECT_EQ(game::roundHalfEven(-7, 2), -4);
+    EXPECT_EQ(game::roundHalfEven(10, 3), 3);
+    EXPECT_EQ(game::roundHalfEven(11, 3), 4);
+    EXPECT_EQ(game::roundHalfEven(1, 0), 0);
+    EXPECT_EQ(game::euros(1250000), QStringLiteral("1250000 €"));
+    EXPECT_EQ(game::euros(-300), QStringLiteral("-300 €"));
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "career/newcareer.h"
+#include "career/preseason.h"
+#include "tempstore.h"
+
+// A test that starts a career and plans its pre-season before it begins.
+class CareerTest : public StoreTest
+{
+protected:
+    static constexpr int kClub = 4; // Portland San Antonio
+
+    void startCareer(int club = kClub)
+    {
+        ASSERT_TRUE(game::NewCareer(*m_context).start(
+            {QStringLiteral("Ana"), QStringLiteral("Ruiz"), club, QStringLiteral("CLUB %1").arg(club)}));
+    }
+
+    // Plays the first `friendlies` slots against clubs abroad, declines the rest, and goes on.
+    void planSeason(int friendlies)
+    {
+        game::Preseason planner(*m_context);
+        planner.begin();
+        const QStringList rivals = planner.clubsOf(2);
+        for (int slot = 0; slot < game::Preseason::kSlots; ++slot) {
+            if (slot < friendlies)
+                ASSERT_GE(planner.choose(rivals.at(slot % rivals.size())), 0);
+            else
+                ASSERT_TRUE(planner.decline());
+        }
+        ASSERT_TRUE(planner.proceed());
+    }
+
+    // The league fixtures of the club's template position, in round order.
+    std::vector<int> leagueFixturesOf(int club)
+    {
+        SQLite::Statement &query = m_store->statement(
+            "select idpartido from liga_asobal where ?1 in (pos_equipo_local, pos_equipo_visitante)"
+            " order by jornada");
+        game::GameStore::bindAll(query, static_cast<int>(m_store->integer(
+                                            "select puesto_anterior from asobal where teams = ?", club)));
+        std::vector<int> ids;
+        while (query.executeStep())
+            ids.push_back(query.getColumn(0).getInt());
+        return ids;
+    }
+
+    std::vector<int> calendarFixtures()
+    {
+        SQLite::Statement &query = m_store->statement("select idpartido from calendario order by semana");
+        std::vector<int> ids;
+        while (query.executeStep())
+            ids.push_back(query.getColumn(0).getInt());
+        return ids;
+    }
+};

@@ -1,0 +1,37 @@
+#include "tempstore.h"
+
+#include <QFile>
+
+void StoreTest::SetUp()
+{
+    ASSERT_TRUE(m_folder.isValid());
+    m_store = std::make_unique<game::GameStore>(workingPath(), pristinePath());
+    const game::Result opened = m_store->open();
+    ASSERT_TRUE(opened.ok()) << opened.message().toStdString();
+    m_context = std::make_unique<game::Context>(game::Context{*m_store, m_random, m_dialogs});
+}
+
+QString StoreTest::dump(const std::string &table)
+{
+    SQLite::Statement &query = m_store->statement("select * from " + table + " order by rowid");
+    QString text;
+    while (query.executeStep()) {
+        for (int column = 0; column < query.getColumnCount(); ++column)
+            text += game::GameStore::columnText(query, column) + QLatin1Char('|');
+        text += QLatin1Char('\n');
+    }
+    return text;
+}
+
+qint64 StoreTest::count(const std::string &table)
+{
+    return m_store->integer("select count(*) from " + table);
+}
+
+QByteArray fileBytes(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return file.readAll();
+}
