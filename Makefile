@@ -20,5 +20,8 @@ build: deps
 deps:
 	@./tools/install-deps.sh
 
+bench: build
+	./$(BUILD)/bench/week_bench
+
 clean:
 	rm -rf $(BUILD)

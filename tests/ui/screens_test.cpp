@@ -1,8 +1,7 @@
 // The first screens as a player uses them: title, menu, new career, add youth, quit.
 
 #include "career/newcareer.h"
-#include "navigator.h"
-#include "tempstore.h"
+#include "screenfixture.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -27,95 +26,8 @@ const QString kNoConnection = QStringLiteral("Es Necesario Tener Conexion a Inte
 
 } // namespace
 
-class Screens : public StoreTest
-{
-protected:
-    void SetUp() override
-    {
-        StoreTest::SetUp();
-        m_window = std::make_unique<QMainWindow>();
-        m_window->resize(1280, 720);
-        m_navigator = std::make_unique<app::Navigator>(*m_context, *m_window);
-        m_navigator->setUrlOpener([this](const QUrl &url) { m_opened << url; });
-        m_window->show();
-    }
-
-    void TearDown() override
-    {
-        m_navigator.reset();
-        m_window.reset();
-        QApplication::processEvents();
-    }
-
-    // A widget of the game by its name, wherever it stands.
-    template<typename T = QWidget>
-    T *find(const QString &name)
-    {
-        for (QWidget *top : QApplication::topLevelWidgets()) {
-            if (top->objectName() == name && qobject_cast<T *>(top))
-                return qobject_cast<T *>(top);
-            if (T *child = top->findChild<T *>(name))
-                return child;
-        }
-        return nullptr;
-    }
-
-    void click(const QString &name)
-    {
-        auto *button = find<QAbstractButton>(name);
-        ASSERT_NE(button, nullptr) << name.toStdString();
-        button->click();
-        settle();
-    }
-
-    // Saves what the player sees: the window and, over it, the dialog that is open.
-    void screenshot(const QString &name, QWidget *dialog = nullptr)
-    {
-        QApplication::processEvents();
-        QPixmap picture = m_window->grab();
-        if (dialog) {
-            QPainter painter(&picture);
-            painter.fillRect(picture.rect(), QColor(0, 0, 0, 110));
-            const QPixmap front = dialog->grab();
-            painter.drawPixmap((picture.width() - front.width()) / 2, (picture.height() - front.height()) / 2, front);
-        }
-        QDir().mkpath(QStringLiteral(ZARPAZO_SCREENSHOTS));
-        EXPECT_TRUE(picture.save(QStringLiteral(ZARPAZO_SCREENSHOTS "/%1.png").arg(name)));
-    }
-
-    // Lets the event loop finish what the last act started, closed screens included.
-    static void settle()
-    {
-        QApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QApplication::processEvents();
-    }
-
-    // Types into a box as the player would; text beyond ASCII goes in as one insertion.
-    void type(const QString &name, const QString &text)
-    {
-        auto *box = find<QLineEdit>(name);
-        ASSERT_NE(box, nullptr) << name.toStdString();
-        box->setFocus();
-        bool ascii = true;
-        for (QChar c : text)
-            ascii = ascii && c.unicode() < 128;
-        if (ascii)
-            QTest::keyClicks(box, text);
-        else
-            box->insert(text);
-    }
-
-    void goToMenu()
-    {
-        m_navigator->showMenu();
-        QApplication::processEvents();
-    }
-
-    std::unique_ptr<QMainWindow> m_window;
-    std::unique_ptr<app::Navigator> m_navigator;
-    QList<QUrl> m_opened;
-};
+class Screens : public ScreenTest
+{};
 
 // Guards: a title that never gives way to the menu, or a wait other than five seconds.
 TEST_F(Screens, theTitleStaysFiveSecondsThenGivesWayToTheMenu)

@@ -90,33 +90,53 @@ WeekPanel::WeekPanel(game::Context context, const game::WeekEvents &events, QWid
     leave->setToolTip(tr("Abandona la carrera y vuelve al menú principal"));
     connect(leave, &QPushButton::clicked, this, &WeekPanel::leaveRequested);
 
-    auto *match = new QVBoxLayout;
-    match->setSpacing(2);
-    match->addWidget(weekCaption);
-    match->addWidget(m_weekLabel);
-    match->addSpacing(8);
-    match->addWidget(m_type);
-    match->addWidget(m_home);
-    match->addWidget(versus);
-    match->addWidget(m_away);
-    match->addWidget(m_date);
-    match->addWidget(m_match);
-    match->addSpacing(10);
-    match->addWidget(play);
-    match->addWidget(leave);
+    // The panel is a scoreboard: the four groups stand in the corners, the week at the top,
+    // the two clubs on the band across the middle and the way to the match below.
+    m_groups = {entrenador, seguimiento, finanzas, mercado};
+    for (QWidget *widget : std::initializer_list<QWidget *>{entrenador, seguimiento, finanzas, mercado, weekCaption,
+                                                            m_weekLabel, m_type, m_home, versus, m_away, m_date,
+                                                            play, leave})
+        widget->setParent(this);
+    m_weekCaption = weekCaption;
+    m_versus = versus;
+    m_play = play;
+    m_leave = leave;
+    m_home->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_away->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_match->setParent(this);
+}
 
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(36, 30, 36, 30);
-    grid->setHorizontalSpacing(40);
-    grid->setVerticalSpacing(40);
-    grid->addWidget(entrenador, 0, 0);
-    grid->addWidget(finanzas, 1, 0);
-    grid->addLayout(match, 0, 1, 2, 1);
-    grid->addWidget(seguimiento, 0, 2);
-    grid->addWidget(mercado, 1, 2);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(2, 1);
+void WeekPanel::resizeEvent(QResizeEvent *)
+{
+    const int w = width();
+    const int h = height();
+    const int cx = w / 2;
+    const int cy = h / 2;
+    const int radius = qMin(w, h) / 7;
+    const int barHeight = h / 10;
+    const int margin = 36;
+    const int groupWidth = int(w * 0.28);
+    auto placeGroup = [&](QWidget *group, bool left, bool top) {
+        const int height = group->sizeHint().height();
+        const int x = left ? margin : w - margin - groupWidth;
+        const int y = top ? cy - 90 - 16 - height : cy + 17 + barHeight + 16;
+        group->setGeometry(x, y, groupWidth, height);
+    };
+    placeGroup(m_groups[0], true, true);
+    placeGroup(m_groups[1], false, true);
+    placeGroup(m_groups[2], true, false);
+    placeGroup(m_groups[3], false, false);
+
+    m_weekCaption->setGeometry(cx - 100, 20, 200, 24);
+    m_weekLabel->setGeometry(cx - 100, 44, 200, 60);
+    m_type->setGeometry(cx - 150, cy - radius - 34, 300, 28);
+    m_home->setGeometry(margin, cy - 33, cx - radius - 16 - margin, 50);
+    m_away->setGeometry(cx + radius + 16, cy - 33, w - margin - cx - radius - 16, 50);
+    m_versus->setGeometry(cx - radius, cy - 20, 2 * radius, 30);
+    m_date->setGeometry(cx - 150, cy + radius + 6, 300, 26);
+    const int buttonWidth = qMin(360, groupWidth);
+    m_play->setGeometry(cx - buttonWidth / 2, h - 110, buttonWidth, 44);
+    m_leave->setGeometry(cx - buttonWidth / 2, h - 56, buttonWidth, 36);
 }
 
 QPushButton *WeekPanel::addButton(const char *name, const QString &caption, Destination destination)

@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+#include <array>
+#include <map>
 #include <optional>
 
 class QLabel;
@@ -47,6 +49,7 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QPushButton *addButton(const char *name, const QString &caption, Destination destination);
@@ -65,6 +68,11 @@ private:
     QLabel *m_type;
     QLabel *m_match;
     QLabel *m_date;
+    QLabel *m_weekCaption;
+    QLabel *m_versus;
+    QPushButton *m_play;
+    QPushButton *m_leave;
+    std::array<QWidget *, 4> m_groups{};
     std::map<Destination, QList<QPushButton *>> m_buttons;
 };
 

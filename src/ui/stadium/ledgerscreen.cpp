@@ -89,7 +89,10 @@ LedgerScreen::LedgerScreen(game::Context context, int currentWeek, QWidget *pare
         amount->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold;"));
         before->addWidget(amount, row++, 1);
     }
-    static_cast<QVBoxLayout *>(m_week->layout())->addLayout(before);
+    // The week before stands beside the week shown.
+    auto *weekTotals = m_week->findChild<QHBoxLayout *>(QStringLiteral("totals"));
+    weekTotals->addLayout(before);
+    weekTotals->addStretch();
 
     m_weekBox = new QLineEdit(QStringLiteral("Act"));
     m_weekBox->setObjectName(QStringLiteral("txtSemana"));
@@ -116,15 +119,16 @@ LedgerScreen::LedgerScreen(game::Context context, int currentWeek, QWidget *pare
     seasonButton->setObjectName(QStringLiteral("Command1"));
     seasonButton->setProperty("role", QStringLiteral("secondary"));
     connect(seasonButton, &QPushButton::clicked, this, [this] {
-        m_season->setVisible(true);
+        // Hide before showing, or for a moment both frames ask for room and the window grows.
         m_week->setVisible(false);
+        m_season->setVisible(true);
     });
     auto *weekButton = new QPushButton(tr("INGRESOS + GASTOS POR SEMANA"));
     weekButton->setObjectName(QStringLiteral("cmdSemana"));
     weekButton->setProperty("role", QStringLiteral("secondary"));
     connect(weekButton, &QPushButton::clicked, this, [this] {
-        m_week->setVisible(true);
         m_season->setVisible(false);
+        m_week->setVisible(true);
     });
     auto *back = new QPushButton(tr("<- VOLVER"));
     back->setObjectName(QStringLiteral("cmdVOLVER"));
@@ -177,13 +181,15 @@ QGroupBox *LedgerScreen::buildFrame(const char *name, const QString &caption, in
     }
 
     auto *totalsRow = new QHBoxLayout;
+    totalsRow->setObjectName(QStringLiteral("totals"));
+    totalsRow->setSpacing(60);
     totalsRow->addLayout(current);
-    totalsRow->addStretch();
 
     auto *layout = new QVBoxLayout(frame);
     layout->addLayout(grid);
-    layout->addSpacing(10);
+    layout->addSpacing(16);
     layout->addLayout(totalsRow);
+    layout->addStretch();
     return frame;
 }
 

@@ -1,0 +1,130 @@
+#pragma once
+
+#include "navigator.h"
+#include "tempstore.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QEnterEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QPainter>
+#include <QPushButton>
+#include <QTest>
+
+// A screen test: the real navigator and widgets over a copy of the pristine database, with
+// scripted dialogs and no real browser.
+class ScreenTest : public StoreTest
+{
+protected:
+    void SetUp() override
+    {
+        StoreTest::SetUp();
+        m_window = std::make_unique<QMainWindow>();
+        m_window->resize(1280, 720);
+        m_navigator = std::make_unique<app::Navigator>(*m_context, *m_window);
+        m_navigator->setUrlOpener([this](const QUrl &url) { m_opened << url; });
+        m_window->show();
+    }
+
+    void TearDown() override
+    {
+        m_navigator.reset();
+        m_window.reset();
+        QApplication::processEvents();
+    }
+
+    // A widget of the game by its name. Screens reuse names ("Command2" is a button of the
+    // menu and of the new career screen), so the open dialogs are searched first, then the
+    // screen on show, then everything.
+    template<typename T = QWidget>
+    T *find(const QString &name)
+    {
+        QList<QWidget *> places;
+        for (QWidget *top : QApplication::topLevelWidgets()) {
+            if (qobject_cast<QDialog *>(top) && top->isVisible())
+                places << top;
+        }
+        if (m_navigator && m_navigator->current())
+            places << m_navigator->current();
+        places << QApplication::topLevelWidgets();
+        for (QWidget *place : std::as_const(places)) {
+            if (place->objectName() == name && qobject_cast<T *>(place))
+                return qobject_cast<T *>(place);
+            if (T *child = place->findChild<T *>(name))
+                return child;
+        }
+        return nullptr;
+    }
+
+    void click(const QString &name)
+    {
+        auto *button = find<QAbstractButton>(name);
+        ASSERT_NE(button, nullptr) << name.toStdString();
+        button->click();
+        settle();
+    }
+
+    // Saves what the player sees: the window and, over it, the dialog that is open.
+    void screenshot(const QString &name, QWidget *dialog = nullptr)
+    {
+        QApplication::processEvents();
+        QPixmap picture = m_window->grab();
+        if (dialog) {
+            QPainter painter(&picture);
+            painter.fillRect(picture.rect(), QColor(0, 0, 0, 110));
+            const QPixmap front = dialog->grab();
+            painter.drawPixmap((picture.width() - front.width()) / 2, (picture.height() - front.height()) / 2, front);
+        }
+        QDir().mkpath(QStringLiteral(ZARPAZO_SCREENSHOTS));
+        EXPECT_TRUE(picture.save(QStringLiteral(ZARPAZO_SCREENSHOTS "/%1.png").arg(name)));
+    }
+
+    // Lets the event loop finish what the last act started, closed screens included.
+    static void settle()
+    {
+        QApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QApplication::processEvents();
+    }
+
+    // Types into a box as the player would; text beyond ASCII goes in as one insertion.
+    void type(const QString &name, const QString &text)
+    {
+        auto *box = find<QLineEdit>(name);
+        ASSERT_NE(box, nullptr) << name.toStdString();
+        box->setFocus();
+        bool ascii = true;
+        for (QChar c : text)
+            ascii = ascii && c.unicode() < 128;
+        if (ascii)
+            QTest::keyClicks(box, text);
+        else
+            box->insert(text);
+    }
+
+    void goToMenu()
+    {
+        m_navigator->showMenu();
+        QApplication::processEvents();
+    }
+
+    // From the menu to the planner with a manager and the club of that crest.
+    void startCareerFromMenu(const QString &crest)
+    {
+        goToMenu();
+        click(QStringLiteral("Command4"));
+        type(QStringLiteral("txtNombre"), QStringLiteral("Chema"));
+        type(QStringLiteral("txtApellidos"), QStringLiteral("Ruiz"));
+        QTest::mouseClick(find(crest), Qt::LeftButton);
+        click(QStringLiteral("cmdSeguir"));
+    }
+
+    std::unique_ptr<QMainWindow> m_window;
+    std::unique_ptr<app::Navigator> m_navigator;
+    QList<QUrl> m_opened;
+};
+

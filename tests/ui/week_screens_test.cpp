@@ -1,0 +1,138 @@
+// From a new career through the pre-season to the first week: panel, ledger and calendar.
+
+#include "career/weekpanel.h"
+#include "common/indexedlabel.h"
+#include "screenfixture.h"
+
+#include <QListWidget>
+#include <QToolButton>
+
+class WeekScreens : public ScreenTest
+{
+protected:
+    // Chooses a country on the planner and a club of its list by row.
+    void chooseClub(const char *country, int row)
+    {
+        click(QString::fromUtf8(country));
+        auto *list = find<QListWidget>(QStringLiteral("DataList1"));
+        ASSERT_NE(list, nullptr);
+        ASSERT_GT(list->count(), row);
+        QListWidgetItem *item = list->item(row);
+        list->setCurrentItem(item);
+        emit list->itemClicked(item);
+        settle();
+    }
+
+    QString slotText(const char *name, int slot)
+    {
+        return indexed::find(find(QStringLiteral("Pretemporada")), QString::fromLatin1(name), slot)->text();
+    }
+};
+
+// Guards: the planner's slots, its refusal and the first week as the player meets them.
+TEST_F(WeekScreens, aPlannedSeasonOpensWeekOneWithItsFixtureLedgerAndCalendar)
+{
+    startCareerFromMenu(QStringLiteral("IValencia"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Pretemporada"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblEquipo"))->text(), QStringLiteral("BM VALENCIA"));
+
+    // The country under the pointer is named; a click lists its clubs.
+    QWidget *germany = find(QStringLiteral("cmdAlemania"));
+    QEvent enter(QEvent::Enter);
+    QApplication::sendEvent(germany, &enter);
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblPaises"))->text(), QStringLiteral("ALEMANIA"));
+
+    chooseClub("cmdAlemania", 0);
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblPaisSel"))->text(), QStringLiteral("ALEMANIA"));
+    EXPECT_EQ(slotText("lblFecha", 0), QStringLiteral("01/08/2004"));
+    EXPECT_EQ(slotText("lblEquipoVis", 0), QStringLiteral("BM Valencia"));
+    click(QStringLiteral("cmdNoJugar"));
+    EXPECT_EQ(slotText("lblEquipoLocal", 1), QStringLiteral("No Jugar"));
+    EXPECT_EQ(slotText("lblFecha", 1), QStringLiteral("-"));
+    chooseClub("cmdFrancia", 1);
+    chooseClub("cmdCroacia", 0);
+
+    click(QStringLiteral("cmdSeguir"));
+    EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("Selecciona 5 Partidos de Pretemporada, Jugados o No Jugados")});
+    EXPECT_EQ(count("calendario"), 0);
+
+    chooseClub("cmdEspaña", 0);
+    EXPECT_EQ(slotText("lblEquipoLocal", 4), QStringLiteral("BM Valencia"));
+    EXPECT_FALSE(find<QPushButton>(QStringLiteral("cmdNoJugar"))->isEnabled());
+    screenshot(QStringLiteral("planner"));
+
+    click(QStringLiteral("cmdSeguir"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+    EXPECT_EQ(count("calendario"), 34);
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("1"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("Tipo"))->text(), QStringLiteral("AMISTOSO"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblEquipoVis"))->text(), QStringLiteral("BM Valencia"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblEquipoLocal"))->text(),
+              m_store->text("select NombreEquipo from equipos where idequipo = (select equipo_local from pretemporada where idpartido = 1)"));
+    EXPECT_EQ(count("caja"), 1);
+    // The screens that do not exist yet are shown, disabled.
+    EXPECT_FALSE(find<QPushButton>(QStringLiteral("cmdClasificacion"))->isEnabled());
+    EXPECT_TRUE(find<QPushButton>(QStringLiteral("cmdCaja"))->isEnabled());
+    screenshot(QStringLiteral("panel"));
+
+    click(QStringLiteral("cmdCaja"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Caja"));
+    QWidget *ledger = m_navigator->current();
+    EXPECT_EQ(find<QLineEdit>(QStringLiteral("txtSemana"))->text(), QStringLiteral("Act"));
+    for (const char *previous : {"lblIngresosAnterior", "lblGastosAnterior", "lblCajaAnterior"})
+        EXPECT_EQ(find<QLabel>(QString::fromLatin1(previous))->text(), QStringLiteral("0 €")) << previous;
+    const qint64 wages = m_store->integer("select Gastos_Fichas from caja where semana = 1");
+    EXPECT_EQ(indexed::find(ledger, QStringLiteral("lblSalario"), 0)->text(), QStringLiteral("%1 €").arg(wages));
+    EXPECT_EQ(indexed::find(ledger, QStringLiteral("lblEmpleados"), 0)->text(), QStringLiteral("1000 €"));
+    EXPECT_EQ(indexed::find(ledger, QStringLiteral("lblHospitales"), 1)->text(), QStringLiteral("0 €"));
+    EXPECT_EQ(indexed::find(ledger, QStringLiteral("lblCA"), 1)->text(),
+              QStringLiteral("%1 €").arg(m_store->integer("select Caja from caja where semana = 1")));
+    click(QStringLiteral("cmdmenos"));
+    EXPECT_EQ(find<QLineEdit>(QStringLiteral("txtSemana"))->text(), QStringLiteral("Act"));
+    screenshot(QStringLiteral("ledger"));
+    click(QStringLiteral("Command1"));
+    EXPECT_TRUE(find(QStringLiteral("FTemp"))->isVisible());
+    EXPECT_FALSE(find(QStringLiteral("FSemana"))->isVisible());
+    click(QStringLiteral("cmdVOLVER"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+
+    click(QStringLiteral("c"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Calendario"));
+    QWidget *calendar = m_navigator->current();
+    EXPECT_EQ(indexed::find(calendar, QStringLiteral("lblTipo2"), 0)->text(), QStringLiteral("Preparación"));
+    EXPECT_EQ(indexed::find(calendar, QStringLiteral("lblTipo2"), 3)->text(), QStringLiteral("Presentación"));
+    EXPECT_EQ(indexed::find(calendar, QStringLiteral("lblTipo2"), 4)->text(), QStringLiteral("Jornada 1"));
+    EXPECT_EQ(indexed::find(calendar, QStringLiteral("lblFecha"), 4), nullptr); // four dates only
+    EXPECT_EQ(indexed::find(calendar, QStringLiteral("lblFecha"), 0)->text(), QStringLiteral("01/08/2004"));
+    EXPECT_EQ(m_window->size(), QSize(1280, 720)); // no screen makes the window grow
+    screenshot(QStringLiteral("calendar"));
+    click(QStringLiteral("cmdVOLVER"));
+    EXPECT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+}
+
+// Guards: "SALIR" on the panel that leaves the career's screens or the old file behind.
+TEST_F(WeekScreens, leavingTheCareerRestoresTheFileAndANewCareerGetsAFreshPanel)
+{
+    startCareerFromMenu(QStringLiteral("IBarcelona"));
+    for (int slot = 0; slot < 5; ++slot)
+        click(QStringLiteral("cmdNoJugar"));
+    click(QStringLiteral("cmdSeguir"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("Tipo"))->text(), QStringLiteral("LIGA"));
+    click(QStringLiteral("c"));
+    m_navigator->weekPanel()->runWeekEvents();
+
+    click(QStringLiteral("cmdVOLVER"));
+    click(QStringLiteral("Command4"));
+    EXPECT_EQ(m_navigator->current()->objectName(), QStringLiteral("Form1"));
+    EXPECT_EQ(find(QStringLiteral("Panel_Control_Manager")), nullptr);
+    EXPECT_EQ(find(QStringLiteral("Calendario")), nullptr);
+    EXPECT_EQ(fileBytes(workingPath()), fileBytes(pristinePath()));
+
+    startCareerFromMenu(QStringLiteral("IAlmeria"));
+    for (int slot = 0; slot < 5; ++slot)
+        click(QStringLiteral("cmdNoJugar"));
+    click(QStringLiteral("cmdSeguir"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("1"));
+    EXPECT_EQ(count("caja"), 1);
+}
