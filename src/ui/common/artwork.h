@@ -49,4 +49,10 @@ enum class MenuIcon {
 // The picture on a menu button, drawn for the given size (the buttons carry no caption).
 QPixmap menuIcon(MenuIcon icon, QSize size);
 
+// The diagrams of the tactics screen, entries 1 to 8: a court seen from above with the seven
+// players of a system as markers. 1 attack "2-2-2", 2 defence "3-2-1", 3 attack "3-3"
+// (shown by no system of the game), 4 defence "3-3", 5 defence "4-2", 6 defence "5-1",
+// 7 defence "6-0", 8 attack "6-0". Drawn for 200 by 199 pixels and any other size.
+QPixmap tacticsDiagram(int entry, QSize size);
+
 } // namespace artwork

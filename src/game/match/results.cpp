@@ -1,0 +1,10 @@
+#include "results.h"
+
+namespace game {
+
+bool Results::record(const Fixture &, int, int)
+{
+    return true;
+}
+
+} // namespace game

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "career/fixture.h"
+#include "context.h"
+
+namespace game {
+
+// What a league match leaves behind: its score in the fixture list, the two clubs' lines in
+// the table, and the rest of its round, played at once without an engine. A friendly leaves
+// nothing. The other fixtures are decided by which squad has the higher average rating: the
+// stronger side scores 21 to 41, the other 1 to 41; at equal strength the away side is
+// taken as the stronger.
+//
+//   Results(context).record(fixture, 27, 25);
+class Results
+{
+public:
+    explicit Results(Context context) : m_context(context) {}
+
+    // Records the user's match and plays the other fixtures of its round, in one transaction.
+    // False when the store failed (the player has been told and nothing was written).
+    bool record(const Fixture &fixture, int homeGoals, int awayGoals);
+
+private:
+    Context m_context;
+};
+
+} // namespace game

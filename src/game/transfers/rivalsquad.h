@@ -1,0 +1,31 @@
+#pragma once
+
+#include "career/fixture.h"
+#include "context.h"
+
+#include <optional>
+
+namespace game {
+
+// The rival of the week has no manager: at each opening of a week his best player of each
+// of the seven positions is named to start, into the table jugar. Where a position has no
+// single best man (nobody, or two or more tied at the top), the club silently brings in a
+// player of that position from a club outside the league or from the released players.
+//
+//   RivalSquad(context).prepare(panel.fixture());
+class RivalSquad
+{
+public:
+    // After this many draws without a candidate the lowest id that qualifies is taken.
+    static constexpr int kMaxDraws = 20000;
+
+    explicit RivalSquad(Context context) : m_context(context) {}
+
+    // Names the rival's seven for the week's match; a week without a match does nothing.
+    void prepare(const std::optional<Fixture> &fixture);
+
+private:
+    Context m_context;
+};
+
+} // namespace game
