@@ -6,7 +6,12 @@
 #include "career/preseasonscreen.h"
 #include "career/splashscreen.h"
 #include "career/weekpanel.h"
+#include "match/callupscreen.h"
+#include "match/matchscreen.h"
+#include "match/results.h"
+#include "match/tacticsscreen.h"
 #include "reports/calendarscreen.h"
+#include "transfers/rivalsquad.h"
 #include "stadium/ledgerscreen.h"
 #include "dialogs.h"
 #include "store/gamestore.h"
@@ -23,6 +28,9 @@ Navigator::Navigator(game::Context context, QMainWindow &window)
       m_openUrl([](const QUrl &url) { QDesktopServices::openUrl(url); })
 {
     m_window.setCentralWidget(m_stack);
+    // The week's events, in the game's fixed order; each subsystem puts in its routine.
+    m_events.set(game::WeekEvents::Step::RivalSquad,
+                 [this](const std::optional<game::Fixture> &fixture) { game::RivalSquad(m_context).prepare(fixture); });
 }
 
 Navigator::~Navigator() = default;
@@ -30,6 +38,11 @@ Navigator::~Navigator() = default;
 ui::WeekPanel *Navigator::weekPanel() const
 {
     return m_panel;
+}
+
+ui::MatchScreen *Navigator::matchScreen() const
+{
+    return m_match;
 }
 
 QWidget *Navigator::current() const
@@ -150,6 +163,8 @@ void Navigator::unloadWeekScreens()
     unload(m_preseason);
     unload(m_ledger);
     unload(m_calendar);
+    unload(m_callUp);
+    unload(m_tactics);
     unload(m_instructions);
     unload(m_history);
     unload(m_handball);
@@ -164,15 +179,26 @@ void Navigator::openWeekPanel()
     unload(m_panel);
     m_panel = new ui::WeekPanel(m_context, m_events);
     using Destination = ui::WeekPanel::Destination;
-    for (Destination destination : {Destination::CallUp, Destination::Tactics, Destination::Standings,
-                                    Destination::Results, Destination::Squad, Destination::Market,
-                                    Destination::Stadium})
+    for (Destination destination : {Destination::Standings, Destination::Results, Destination::Squad,
+                                    Destination::Market, Destination::Stadium})
         m_panel->setAvailable(destination, false);
     connect(m_panel, &ui::WeekPanel::destinationRequested, this, [this](Destination destination) {
-        if (destination == Destination::Ledger)
+        switch (destination) {
+        case Destination::Ledger:
             openLedger();
-        else if (destination == Destination::Calendar)
+            break;
+        case Destination::Calendar:
             openCalendar();
+            break;
+        case Destination::CallUp:
+            openCallUp();
+            break;
+        case Destination::Tactics:
+            openTactics();
+            break;
+        default:
+            break;
+        }
     });
     connect(m_panel, &ui::WeekPanel::leaveRequested, this, &Navigator::leaveCareer);
     show(m_panel);
@@ -183,8 +209,55 @@ void Navigator::backToPanel()
 {
     if (m_panel)
         show(m_panel);
+    // The call-up only hides and keeps its picks; the reports are read afresh each time.
     unload(m_ledger);
     unload(m_calendar);
+    unload(m_tactics);
+}
+
+void Navigator::openCallUp()
+{
+    if (!m_callUp) {
+        m_callUp = new ui::CallUpScreen(m_context);
+        connect(m_callUp, &ui::CallUpScreen::closeRequested, this, &Navigator::backToPanel);
+        connect(m_callUp, &ui::CallUpScreen::playRequested, this, &Navigator::openMatch);
+    } else {
+        m_callUp->reload();
+    }
+    show(m_callUp);
+}
+
+void Navigator::openTactics()
+{
+    unload(m_tactics);
+    m_tactics = new ui::TacticsScreen(m_context);
+    connect(m_tactics, &ui::TacticsScreen::closeRequested, this, &Navigator::backToPanel);
+    show(m_tactics);
+}
+
+void Navigator::openMatch()
+{
+    const std::optional<game::Fixture> fixture = m_panel ? m_panel->fixture() : std::nullopt;
+    if (!fixture)
+        return;
+    if (m_panel)
+        m_panel->runWeekEvents(); // the rival must have named his seven before kick-off
+    unload(m_match);
+    m_match = new ui::MatchScreen(m_context, *fixture, &m_window);
+    connect(m_match, &ui::MatchScreen::left, this, &Navigator::leaveMatch);
+    m_match->open();
+}
+
+void Navigator::leaveMatch()
+{
+    if (!m_match)
+        return;
+    const game::Fixture fixture = m_match->fixture();
+    const game::MatchEngine &engine = m_match->engine();
+    game::Results(m_context).record(fixture, engine.score(0), engine.score(1));
+    unload(m_match);
+    // The next week opens with a fresh panel; there is no other way to it.
+    openWeekPanel();
 }
 
 void Navigator::openLedger()
@@ -210,6 +283,7 @@ void Navigator::leaveCareer()
     if (game::Result restored = m_context.store.restore(); !restored)
         m_context.dialogs.tell(restored.message(), game::Dialogs::Icon::Exclamation);
     unloadWeekScreens();
+    unload(m_match);
     if (m_panel)
         m_panel->retire();
     unload(m_panel);

@@ -24,6 +24,9 @@ class SplashScreen;
 class WeekPanel;
 class LedgerScreen;
 class CalendarScreen;
+class CallUpScreen;
+class TacticsScreen;
+class MatchScreen;
 }
 
 namespace app {
@@ -50,12 +53,17 @@ public:
     void openWeekPanel();
     void openLedger();
     void openCalendar();
+    void openCallUp();
+    void openTactics();
+    void openMatch();
+    void leaveMatch();
     void leaveCareer();
     void quitGame();
 
     // The week's events; the subsystems put their routines in it.
     game::WeekEvents &weekEvents() { return m_events; }
     ui::WeekPanel *weekPanel() const;
+    ui::MatchScreen *matchScreen() const;
 
     QWidget *current() const;
 
@@ -87,6 +95,9 @@ private:
     QPointer<ui::WeekPanel> m_panel;
     QPointer<ui::LedgerScreen> m_ledger;
     QPointer<ui::CalendarScreen> m_calendar;
+    QPointer<ui::CallUpScreen> m_callUp;
+    QPointer<ui::TacticsScreen> m_tactics;
+    QPointer<ui::MatchScreen> m_match;
     game::WeekEvents m_events;
 };
 

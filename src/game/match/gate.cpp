@@ -1,10 +1,179 @@
 #include "gate.h"
 
+#include "dialogs.h"
+#include "money.h"
+#include "random.h"
+#include "stadium/ledger.h"
+#include "store/gamestore.h"
+
+#include <cstdlib>
+#include <optional>
+
 namespace game {
 
-Gate::Report Gate::settle(const Fixture &)
+namespace {
+
+// An ordinary match never draws fewer than this; a smaller hall is simply full.
+constexpr int kLeastCrowd = 1500;
+// At least a third of the hoardings always sell.
+constexpr int kLeastHoardings = 10;
+
+constexpr int kTicketPrice = 1;
+constexpr int kHoardingPrice = 2;
+
+std::optional<int> firstInteger(GameStore &store, const std::string &sql, int key)
 {
-    return {};
+    std::optional<int> value;
+    store.attempt([&] {
+        GameStore::Query query = store.query(sql, key);
+        if (query.next())
+            value = query.integer(0);
+    });
+    return value;
+}
+
+// A big match fills the house: both clubs of the same class, or next to each other in the
+// table. A club that has no class or no place (a club from abroad in a friendly) cannot be
+// compared, and that counts as a big match too.
+bool isBigMatch(GameStore &store, int home, int away)
+{
+    const char *classOf = "select categoria from equipos where idequipo = ?";
+    const std::optional<int> homeClass = firstInteger(store, classOf, home);
+    const std::optional<int> awayClass = firstInteger(store, classOf, away);
+    if (!homeClass || !awayClass || *homeClass == *awayClass)
+        return true;
+
+    const char *placeOf = "select puesto_actual from asobal where teams = ?";
+    const std::optional<int> homePlace = firstInteger(store, placeOf, home);
+    const std::optional<int> awayPlace = firstInteger(store, placeOf, away);
+    return !homePlace || !awayPlace || std::abs(*homePlace - *awayPlace) == 1;
+}
+
+// Uniform from 1500 to the capacity: a draw below 1500 is thrown away and drawn again. A
+// hall that holds fewer than 1500 fills up without a draw.
+int ordinaryCrowd(Random &random, int capacity)
+{
+    if (capacity <= kLeastCrowd)
+        return capacity;
+    int crowd = 0;
+    do
+        crowd = random.draw(capacity);
+    while (crowd < kLeastCrowd);
+    return crowd;
+}
+
+// Uniform from 10 to 30, the same way.
+int ordinaryHoardings(Random &random)
+{
+    int hoardings = 0;
+    do
+        hoardings = random.draw(Gate::kHoardings);
+    while (hoardings < kLeastHoardings);
+    return hoardings;
+}
+
+int percentOf(qint64 part, qint64 whole)
+{
+    return static_cast<int>(roundHalfEven(part * 100, whole));
+}
+
+} // namespace
+
+Gate::Report Gate::settle(const Fixture &fixture)
+{
+    GameStore &store = m_context.store;
+    Report report;
+
+    // Each read that fails is passed over and leaves its figure at nothing.
+    int userClub = 0;
+    int week = 0;
+    store.attempt([&] {
+        GameStore::Query career = store.query("select idequipo, jornada from datos_jugador");
+        if (career.next()) {
+            userClub = career.integer(0);
+            week = career.integer(1);
+        }
+    });
+    store.attempt([&] {
+        GameStore::Query stadium = store.query("select Nombre, min_gradas from estadios where idequipo = ?",
+                                               fixture.homeId);
+        if (stadium.next()) {
+            report.hasStadium = true;
+            report.stadium = stadium.text(0);
+            report.capacity = stadium.integer(1);
+        }
+    });
+    const qint64 ticketPrice = firstInteger(store, "select precio_entrada from entradas where idPrecio = ?",
+                                            kTicketPrice).value_or(0);
+    const qint64 hoardingPrice = firstInteger(store, "select precio_entrada from entradas where idPrecio = ?",
+                                              kHoardingPrice).value_or(0);
+
+    report.fullHouse = isBigMatch(store, fixture.homeId, fixture.awayId);
+    if (report.fullHouse) {
+        report.attendance = report.capacity;
+        report.attendancePercent = 100;
+        report.hoardings = kHoardings;
+        report.hoardingsPercent = 100;
+    } else {
+        report.attendance = ordinaryCrowd(m_context.random, report.capacity);
+        report.attendancePercent = percentOf(report.attendance, report.capacity);
+        report.hoardings = ordinaryHoardings(m_context.random);
+        report.hoardingsPercent = percentOf(report.hoardings, kHoardings);
+    }
+    report.gateTakings = qint64(report.attendance) * ticketPrice;
+    report.hoardingsTakings = qint64(report.hoardings) * hoardingPrice;
+
+    // Only the user's own home matches pay, and only into the week's row: the money is in the
+    // ledger from the moment the match screen opens, whatever the result.
+    report.userAtHome = userClub != 0 && fixture.homeId == userClub;
+    if (!report.userAtHome || !report.hasStadium)
+        return report;
+
+    const Result posted = store.run([&] {
+        Ledger ledger(store);
+        ledger.postGateAndBoards(week, report.gateTakings, report.hoardingsTakings);
+        // The cafeterias take two euros a head.
+        if (store.integer("select cafeteria from estadios where idequipo = ?", userClub) != 0)
+            ledger.postCafeterias(week, 2 * qint64(report.attendance));
+    });
+    if (!posted)
+        m_context.dialogs.tell(posted.message(), Dialogs::Icon::Exclamation);
+    return report;
+}
+
+QString Gate::Report::capacityText() const
+{
+    return QStringLiteral("AFORO: %1 Espectadores").arg(capacity);
+}
+
+QString Gate::Report::attendanceText() const
+{
+    return QStringLiteral("ENTRADA: %1 Espectadores").arg(attendance);
+}
+
+QString Gate::Report::attendancePercentText() const
+{
+    return QString::number(attendancePercent) + QLatin1Char('%');
+}
+
+QString Gate::Report::gateTakingsText() const
+{
+    return QStringLiteral("RECAUDACIÓN: ") + euros(gateTakings);
+}
+
+QString Gate::Report::hoardingsCaption()
+{
+    return QStringLiteral("VALLAS CONTRATADAS:");
+}
+
+QString Gate::Report::hoardingsPercentText() const
+{
+    return QString::number(hoardingsPercent) + QLatin1Char('%');
+}
+
+QString Gate::Report::hoardingsTakingsText() const
+{
+    return QStringLiteral("RECAUDACIÓN: ") + euros(hoardingsTakings);
 }
 
 } // namespace game

@@ -10,9 +10,10 @@ namespace game {
 // The crowd of a match and what it pays, settled once as the match screen opens, before
 // play. A big match (clubs of the same class, or next to each other in the table) fills the
 // house; any other draws a random crowd. Only a home match of the user's club pays into the
-// ledger: tickets and hoardings, and twice the crowd when the club has cafeterias.
+// ledger: tickets and hoardings, and twice the crowd when the club has cafeterias. The
+// prices are always the user's, also in the rival's stadium.
 //
-//   const GateReport gate = Gate(context).settle(fixture);
+//   const Gate::Report gate = Gate(context).settle(fixture);
 //   label->setText(gate.attendanceText());
 class Gate
 {

@@ -1,0 +1,63 @@
+#include "tactics.h"
+
+#include "dialogs.h"
+#include "store/gamestore.h"
+
+namespace game {
+
+const QStringList &Tactics::defences()
+{
+    static const QStringList list{QStringLiteral("6-0"), QStringLiteral("5-1"), QStringLiteral("3-3"),
+                                  QStringLiteral("3-2-1"), QStringLiteral("4-2")};
+    return list;
+}
+
+const QStringList &Tactics::attacks()
+{
+    static const QStringList list{QStringLiteral("6-0"), QStringLiteral("2-2-2")};
+    return list;
+}
+
+int Tactics::defencePicture(int code)
+{
+    static const int pictures[] = {7, 6, 4, 2, 5};
+    return code >= 1 && code <= 5 ? pictures[code - 1] : 0;
+}
+
+int Tactics::attackPicture(int code)
+{
+    static const int pictures[] = {8, 1};
+    return code >= 1 && code <= 2 ? pictures[code - 1] : 0;
+}
+
+int Tactics::defenceCode()
+{
+    return int(m_context.store.integer("select precio_entrada from entradas where idPrecio = ?", kDefenceRow));
+}
+
+int Tactics::attackCode()
+{
+    return int(m_context.store.integer("select precio_entrada from entradas where idPrecio = ?", kAttackRow));
+}
+
+void Tactics::setDefence(int code)
+{
+    if (code >= 1 && code <= int(defences().size()))
+        store(kDefenceRow, code);
+}
+
+void Tactics::setAttack(int code)
+{
+    if (code >= 1 && code <= int(attacks().size()))
+        store(kAttackRow, code);
+}
+
+void Tactics::store(int row, int code)
+{
+    const Result result = m_context.store.run(
+        [&] { m_context.store.execute("update entradas set precio_entrada = ? where idPrecio = ?", code, row); });
+    if (!result)
+        m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
+}
+
+} // namespace game

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "career/fixture.h"
+#include "context.h"
+#include "match/engine.h"
+#include "match/gate.h"
+
+#include <QDialog>
+
+#include <array>
+#include <memory>
+
+class QComboBox;
+class QLabel;
+class QListWidget;
+class QPushButton;
+class QTimer;
+class ClickableLabel;
+
+namespace ui {
+
+// "Partido": the week's match, played on a live commentary. The user starts each half, may
+// exchange players and announce a system at any moment, and leaves with "SALIR" at full time.
+class MatchScreen : public QDialog
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kTickMilliseconds = 100;
+
+    MatchScreen(game::Context context, const game::Fixture &fixture, QWidget *parent = nullptr);
+    ~MatchScreen() override;
+
+    const game::MatchEngine &engine() const { return *m_engine; }
+    const game::Fixture &fixture() const { return m_fixture; }
+    // One tick of the match clock, as the timer gives it; a test may call it directly.
+    void tick();
+
+signals:
+    // The match is over and the player leaves: the result is to be recorded.
+    void left();
+
+public slots:
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    QWidget *buildScoreboard();
+    QWidget *buildRows();
+    QWidget *buildSide();
+    void showGate(const game::Gate::Report &gate);
+    void startHalf();
+    void pickRow(int row);
+    void exchange();
+    void leave();
+    bool mayClose();
+    void refresh();
+    void paintRows();
+
+    game::Context m_context;
+    game::Fixture m_fixture;
+    std::unique_ptr<game::MatchEngine> m_engine;
+    QTimer *m_timer;
+    std::array<std::array<ClickableLabel *, 4>, game::MatchEngine::kRows> m_entries{};
+    std::array<ClickableLabel *, game::MatchEngine::kRows> m_places{};
+    std::array<QLabel *, 2> m_score{};
+    std::array<QLabel *, 2> m_goals{};
+    std::array<QLabel *, 2> m_possession{};
+    QLabel *m_minute = nullptr;
+    QListWidget *m_commentary = nullptr;
+    QComboBox *m_system = nullptr;
+    QPushButton *m_start = nullptr;
+    QPushButton *m_leave = nullptr;
+    std::size_t m_linesShown = 0;
+    bool m_leaving = false;
+};
+
+} // namespace ui

@@ -1,0 +1,136 @@
+#include "tacticsscreen.h"
+
+#include "common/artwork.h"
+#include "common/gridstyle.h"
+#include "common/rowsmodel.h"
+#include "common/theme.h"
+#include "match/callup.h"
+#include "match/tactics.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace ui {
+
+namespace {
+
+const QSize kDiagramSize(200, 199);
+
+QLabel *caption(const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
+    return label;
+}
+
+} // namespace
+
+TacticsScreen::TacticsScreen(game::Context context, QWidget *parent) : QWidget(parent), m_context(context)
+{
+    setObjectName(QStringLiteral("Tactica"));
+    setWindowTitle(tr("Táctica"));
+    setAttribute(Qt::WA_StyledBackground);
+    setStyleSheet(QStringLiteral("QWidget#Tactica { background-color: #0f1e3c; }"));
+
+    m_defence = new QComboBox;
+    m_defence->setObjectName(QStringLiteral("Combo1"));
+    m_defence->addItems(game::Tactics::defences());
+    m_attack = new QComboBox;
+    m_attack->setObjectName(QStringLiteral("Combos2"));
+    m_attack->addItems(game::Tactics::attacks());
+    m_defenceDiagram = new QLabel;
+    m_defenceDiagram->setObjectName(QStringLiteral("defensa"));
+    m_defenceDiagram->setFixedSize(kDiagramSize);
+    m_attackDiagram = new QLabel;
+    m_attackDiagram->setObjectName(QStringLiteral("ataque"));
+    m_attackDiagram->setFixedSize(kDiagramSize);
+    connect(m_defence, &QComboBox::activated, this, [this](int index) {
+        game::Tactics(m_context).setDefence(index + 1);
+        showSystems();
+    });
+    connect(m_attack, &QComboBox::activated, this, [this](int index) {
+        game::Tactics(m_context).setAttack(index + 1);
+        showSystems();
+    });
+
+    // Who throws the 7 m penalties: the list is there, but the throws go to whoever has the ball.
+    const std::vector<game::CallUp::Player> squad = game::CallUp(context).calledUp();
+    auto *thrower = new QComboBox;
+    thrower->setObjectName(QStringLiteral("DataCombo1"));
+    auto *players = new RowsModel({QStringLiteral("idjugador"), tr("Nombre"), tr("Apellidos"), tr("Posicion"),
+                                   tr("Media"), tr("Dorsal"), tr("Lesiones")},
+                                  this);
+    std::vector<QStringList> rows;
+    for (const game::CallUp::Player &player : squad) {
+        thrower->addItem(player.apellidos);
+        rows.push_back({QString::number(player.id), player.nombre, player.apellidos, player.posicion,
+                        QString::number(player.media), QString::number(player.dorsal), QString::number(player.lesiones)});
+    }
+    players->setRows(std::move(rows));
+    auto *grid = new QTableView;
+    grid->setObjectName(QStringLiteral("DataGrid1"));
+    grid->setModel(players);
+    styleGrid(grid);
+    grid->resizeColumnsToContents();
+
+    auto *systems = new QGridLayout;
+    systems->setHorizontalSpacing(40);
+    systems->addWidget(caption(tr("Táctica Defensiva:")), 0, 0);
+    systems->addWidget(caption(tr("Táctica Ofensiva")), 0, 1);
+    systems->addWidget(m_defence, 1, 0);
+    systems->addWidget(m_attack, 1, 1);
+    systems->addWidget(m_defenceDiagram, 2, 0);
+    systems->addWidget(m_attackDiagram, 2, 1);
+    systems->addWidget(caption(tr("Lanzador de 7m:")), 3, 0);
+    systems->addWidget(thrower, 4, 0);
+    systems->setRowStretch(5, 1);
+
+    auto *back = new QPushButton(tr("<- VOLVER"));
+    back->setObjectName(QStringLiteral("cmdVOLVER"));
+    connect(back, &QPushButton::clicked, this, &TacticsScreen::closeRequested);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(back);
+
+    auto *body = new QHBoxLayout;
+    body->setSpacing(30);
+    body->addLayout(systems);
+    auto *squadColumn = new QVBoxLayout;
+    squadColumn->addWidget(caption(tr("CONVOCADOS")));
+    squadColumn->addWidget(grid, 1);
+    body->addLayout(squadColumn, 1);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(28, 16, 28, 16);
+    layout->setSpacing(12);
+    layout->addWidget(theme::heading(tr("TÁCTICA")));
+    layout->addLayout(body, 1);
+    layout->addLayout(buttons);
+    showSystems();
+}
+
+void TacticsScreen::showSystems()
+{
+    game::Tactics tactics(m_context);
+    const int defence = tactics.defenceCode();
+    const int attack = tactics.attackCode();
+    // A code outside its list changes nothing on the screen.
+    if (const int picture = game::Tactics::defencePicture(defence)) {
+        m_defenceDiagram->setPixmap(artwork::tacticsDiagram(picture, kDiagramSize));
+        QSignalBlocker blocker(m_defence);
+        m_defence->setCurrentIndex(defence - 1);
+    }
+    if (const int picture = game::Tactics::attackPicture(attack)) {
+        m_attackDiagram->setPixmap(artwork::tacticsDiagram(picture, kDiagramSize));
+        QSignalBlocker blocker(m_attack);
+        m_attack->setCurrentIndex(attack - 1);
+    }
+}
+
+} // namespace ui
