@@ -22,6 +22,7 @@ deps:
 
 bench: build
 	./$(BUILD)/bench/week_bench
+	./$(BUILD)/bench/match_bench
 
 clean:
 	rm -rf $(BUILD)

@@ -38,7 +38,7 @@ CREATE TABLE jugadores (
     libre3            INTEGER NOT NULL DEFAULT 0,
     "Años_Contrato"   INTEGER NOT NULL
 );
-CREATE INDEX jugadores_por_equipo ON jugadores (idequipo, Posicion);
+CREATE INDEX jugadores_por_equipo ON jugadores (idequipo, Posicion, Media);
 
 CREATE TABLE lesiones (
     idlesion      INTEGER PRIMARY KEY,

@@ -11,7 +11,6 @@
 #include "match/results.h"
 #include "match/tacticsscreen.h"
 #include "reports/calendarscreen.h"
-#include "transfers/rivalsquad.h"
 #include "stadium/ledgerscreen.h"
 #include "dialogs.h"
 #include "store/gamestore.h"
@@ -28,9 +27,7 @@ Navigator::Navigator(game::Context context, QMainWindow &window)
       m_openUrl([](const QUrl &url) { QDesktopServices::openUrl(url); })
 {
     m_window.setCentralWidget(m_stack);
-    // The week's events, in the game's fixed order; each subsystem puts in its routine.
-    m_events.set(game::WeekEvents::Step::RivalSquad,
-                 [this](const std::optional<game::Fixture> &fixture) { game::RivalSquad(m_context).prepare(fixture); });
+    m_events = game::WeekEvents::standard(m_context);
 }
 
 Navigator::~Navigator() = default;

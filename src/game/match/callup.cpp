@@ -133,8 +133,16 @@ void CallUp::chooseBest()
             lineUp.push_back(player.id);
         }
     }
-    for (std::size_t place = 0; place < lineUp.size(); ++place)
-        this->place(int(place), lineUp[place]);
+    // Only the places that change are written: a squad that stays as it was costs nothing.
+    const std::vector<Place> current = places();
+    const Result result = m_context.store.run([&] {
+        for (std::size_t place = 0; place < lineUp.size(); ++place) {
+            if (place >= current.size() || current[place].playerId != lineUp[place])
+                this->place(int(place), lineUp[place]);
+        }
+    });
+    if (!result)
+        m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
 }
 
 } // namespace game

@@ -74,7 +74,9 @@ Result GameStore::open()
 Result GameStore::openConnection()
 {
     try {
-        auto db = std::make_unique<SQLite::Database>(m_workingPath.toStdString(), SQLite::OPEN_READWRITE);
+        // One thread uses the connection, so SQLite's own locking is not needed.
+        auto db = std::make_unique<SQLite::Database>(m_workingPath.toStdString(),
+                                                     SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
         db->exec("PRAGMA journal_mode=WAL");
         db->exec("PRAGMA synchronous=NORMAL");
         db->exec("PRAGMA foreign_keys=OFF");

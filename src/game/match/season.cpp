@@ -1,0 +1,85 @@
+#include "season.h"
+
+#include "career/fixture.h"
+#include "career/leagueclubs.h"
+#include "career/newcareer.h"
+#include "career/preseason.h"
+#include "career/weekevents.h"
+#include "career/weekopening.h"
+#include "match/callup.h"
+#include "match/engine.h"
+#include "match/gate.h"
+#include "match/matchday.h"
+#include "match/results.h"
+#include "random.h"
+#include "store/gamestore.h"
+
+namespace game {
+
+bool AutoSeason::begin()
+{
+    const QString caption = leagueClubCaption(m_options.club);
+    if (!NewCareer(m_context).start({QStringLiteral("Simulador"), QStringLiteral("Zarpazo"), m_options.club, caption})) {
+        m_failure = QStringLiteral("the career could not start");
+        return false;
+    }
+    Preseason planner(m_context);
+    planner.begin();
+    for (int slot = 0; slot < Preseason::kSlots; ++slot) {
+        if (slot < m_options.friendlies) {
+            // A club of another country, drawn: country 2 to 18, then a club of its list.
+            const QStringList clubs = planner.clubsOf(1 + m_context.random.draw(17));
+            planner.choose(clubs.at(m_context.random.draw(int(clubs.size())) - 1));
+        } else {
+            planner.decline();
+        }
+    }
+    if (!planner.proceed()) {
+        m_failure = QStringLiteral("the season could not be planned");
+        return false;
+    }
+    return true;
+}
+
+bool AutoSeason::playWeek()
+{
+    const std::optional<WeekOpening::Opened> opened = WeekOpening(m_context).open();
+    if (!opened) {
+        m_failure = QStringLiteral("the week could not open");
+        return false;
+    }
+    if (opened->seasonOver)
+        return false;
+    ++m_totals.weeks;
+    const int club = WeekOpening::userClub(m_context.store);
+    const std::optional<Fixture> fixture = fixtureOfWeek(m_context.store, opened->week, club);
+    WeekEvents::standard(m_context).run(fixture);
+    if (!fixture)
+        return true;
+
+    CallUp callUp(m_context);
+    callUp.chooseBest();
+    if (!callUp.readyToPlay()) {
+        m_failure = QStringLiteral("fewer than fourteen players");
+        return false;
+    }
+    MatchDay matchDay(m_context);
+    MatchEngine engine(m_context.random, matchDay.setup(*fixture));
+    engine.announceSystem(matchDay.storedDefence());
+    Gate(m_context).settle(*fixture);
+    for (int half = 0; half < 2; ++half) {
+        engine.start();
+        while (engine.running())
+            engine.tick();
+    }
+    if (!Results(m_context).record(*fixture, engine.score(0), engine.score(1))) {
+        m_failure = QStringLiteral("the result could not be recorded");
+        return false;
+    }
+    ++m_totals.matches;
+    m_totals.goalsFor += engine.score(engine.userSide());
+    m_totals.goalsAgainst += engine.score(engine.rivalSide());
+    return true;
+}
+
+} // namespace game

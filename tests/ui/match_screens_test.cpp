@@ -1,0 +1,180 @@
+// Match day as the player lives it: the call-up, the tactics, the live match and the way out.
+
+#include "career/weekpanel.h"
+#include "common/indexedlabel.h"
+#include "match/matchscreen.h"
+#include "screenfixture.h"
+
+#include <QComboBox>
+#include <QListWidget>
+#include <QTableView>
+
+class MatchScreens : public ScreenTest
+{
+protected:
+    // A new career with Valencia, every friendly declined: week 1 is the first league round.
+    void reachFirstLeagueWeek()
+    {
+        startCareerFromMenu(QStringLiteral("IValencia"));
+        for (int slot = 0; slot < 5; ++slot)
+            click(QStringLiteral("cmdNoJugar"));
+        click(QStringLiteral("cmdSeguir"));
+        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+        m_navigator->weekPanel()->runWeekEvents();
+    }
+
+    // Picks the grid row of a player and a place of the list, and presses "Añadir".
+    void placeRow(int gridRow, int place)
+    {
+        auto *grid = find<QTableView>(QStringLiteral("DataGrid1"));
+        grid->setCurrentIndex(grid->model()->index(gridRow, 2)); // any cell of the row will do
+        find<QListWidget>(QStringLiteral("list1"))->setCurrentRow(place);
+        click(QStringLiteral("cmdAñadir"));
+    }
+
+    QString placeText(int place) { return find<QListWidget>(QStringLiteral("list1"))->item(place)->text(); }
+
+    ui::MatchScreen *match() { return m_navigator->matchScreen(); }
+
+    QString entry(const char *row, int index)
+    {
+        return indexed::find(match(), QString::fromLatin1(row), index)->text();
+    }
+
+    void playHalf()
+    {
+        click(QStringLiteral("cmdStart"));
+        for (int guard = 0; guard < 1000 && match()->engine().running(); ++guard)
+            match()->tick();
+        settle();
+    }
+};
+
+// Guards: the whole way through a match day, from the call-up to the next week's panel.
+TEST_F(MatchScreens, aMatchIsCalledUpPlayedChangedAndLeftForTheNextWeek)
+{
+    reachFirstLeagueWeek();
+    EXPECT_EQ(count("jugar"), 7);
+    const int matchId = m_navigator->weekPanel()->fixture()->idpartido;
+
+    click(QStringLiteral("cmdSeguir"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Alinear"));
+    EXPECT_EQ(placeText(0), QStringLiteral("PORTERO: PORTERO  - "));
+
+    // Without a player picked nobody is placed.
+    find<QListWidget>(QStringLiteral("list1"))->setCurrentRow(0);
+    click(QStringLiteral("cmdAñadir"));
+    EXPECT_EQ(placeText(0), QStringLiteral("PORTERO: PORTERO  - "));
+
+    const int squad = find<QTableView>(QStringLiteral("DataGrid1"))->model()->rowCount();
+    ASSERT_GE(squad, 14);
+    for (int place = 0; place < 13; ++place)
+        placeRow(place, place);
+    click(QStringLiteral("cmdJugar"));
+    EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("Debes Seleccionar 14 Jugadores para la Covocatoria")});
+    EXPECT_EQ(match(), nullptr);
+
+    // Moving a placed player frees his old place; the same place keeps him.
+    placeRow(0, 13);
+    EXPECT_EQ(placeText(0), QStringLiteral("PORTERO: PORTERO  - "));
+    placeRow(0, 13);
+    EXPECT_TRUE(placeText(13).startsWith(QStringLiteral("SUPLENTE7: ")));
+    placeRow(13, 0);
+    EXPECT_EQ(m_store->integer("select count(*) from miequipo where idjugador <> 0"), 14);
+    screenshot(QStringLiteral("call_up"));
+
+    click(QStringLiteral("cmdVOLVER"));
+    click(QStringLiteral("Command3"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Tactica"));
+    auto *defence = find<QComboBox>(QStringLiteral("Combo1"));
+    defence->setCurrentIndex(3);
+    emit defence->activated(3);
+    EXPECT_EQ(m_store->integer("select precio_entrada from entradas where idPrecio = 3"), 4);
+    EXPECT_EQ(m_store->integer("select precio_entrada from entradas where idPrecio = 4"), 1);
+    screenshot(QStringLiteral("tactics"));
+    click(QStringLiteral("cmdVOLVER"));
+
+    click(QStringLiteral("cmdAlineacion"));
+    m_dialogs.clear();
+    click(QStringLiteral("cmdJugar"));
+    ASSERT_NE(match(), nullptr);
+    EXPECT_TRUE(match()->isVisible());
+    auto *commentary = find<QListWidget>(QStringLiteral("list2"));
+    ASSERT_EQ(commentary->count(), 1);
+    EXPECT_EQ(commentary->item(0)->text(), QStringLiteral("(0)-> El BM VALENCIA Cambia la Táctica a 3-2-1"));
+    EXPECT_EQ(entry("lblCE", 3), QStringLiteral("0/0"));
+    EXPECT_FALSE(find<QPushButton>(QStringLiteral("cmdSalir"))->isEnabled());
+
+    // The frame cannot close the match before it ends.
+    match()->close();
+    EXPECT_TRUE(match()->isVisible());
+    EXPECT_EQ(m_dialogs.texts().last(), QStringLiteral("Tienes Que Espera a Que el Partido Finalice"));
+
+    playHalf();
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblmin"))->text(), QStringLiteral("30"));
+    EXPECT_TRUE(commentary->item(0)->text().startsWith(QStringLiteral("(30)-> Descanso :")));
+    EXPECT_EQ(commentary->item(0)->foreground().color(), QColor(0, 140, 0));
+    EXPECT_TRUE(find<QPushButton>(QStringLiteral("cmdStart"))->isEnabled());
+
+    // An exchange at half time: the central for the third substitute, all four entries.
+    QStringList central, substitute;
+    for (int i = 0; i < 4; ++i) {
+        central << entry("lblCE", i);
+        substitute << entry("lblSu3", i);
+    }
+    QTest::mouseClick(indexed::find(match(), QStringLiteral("lblPosicion"), 6), Qt::LeftButton);
+    EXPECT_TRUE(indexed::find(match(), QStringLiteral("lblCE"), 2)->styleSheet().contains(QStringLiteral("255, 0, 0")));
+    QTest::mouseClick(indexed::find(match(), QStringLiteral("lblSu3"), 1), Qt::LeftButton);
+    EXPECT_TRUE(indexed::find(match(), QStringLiteral("lblCE"), 0)->styleSheet().contains(QStringLiteral("255, 0, 0")));
+    screenshot(QStringLiteral("match_half_time"), match());
+    click(QStringLiteral("cmdCambiar"));
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(entry("lblCE", i), substitute[i]);
+        EXPECT_EQ(entry("lblSu3", i), central[i]);
+    }
+    EXPECT_FALSE(indexed::find(match(), QStringLiteral("lblCE"), 0)->styleSheet().contains(QStringLiteral("255, 0, 0")));
+
+    playHalf();
+    ASSERT_TRUE(match()->engine().finished());
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblmin"))->text(), QStringLiteral("60"));
+    EXPECT_TRUE(commentary->item(0)->text().startsWith(QStringLiteral("(60)-> Final :")));
+    EXPECT_TRUE(find<QPushButton>(QStringLiteral("cmdSalir"))->isEnabled());
+    const int home = match()->engine().score(0);
+    const int away = match()->engine().score(1);
+    EXPECT_EQ(indexed::find(match(), QStringLiteral("lblMarcador"), 0)->text(), QString::number(home));
+    screenshot(QStringLiteral("match_full_time"), match());
+
+    click(QStringLiteral("cmdSalir"));
+    settle();
+    EXPECT_EQ(match(), nullptr);
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("2"));
+    EXPECT_EQ(m_store->integer("select goles_equipo_local * 1000 + goles_equipo_visitante from liga_asobal where idpartido = ?", matchId),
+              home * 1000 + away);
+    EXPECT_EQ(m_store->integer("select count(*) from liga_asobal where jornada = 1 and goles_equipo_local + goles_equipo_visitante > 0"), 8);
+    EXPECT_EQ(m_store->integer("select sum(\"Partidos_ Ganados\" + Partidos_Empatados + Partidos_Perdidos) from asobal"), 16);
+
+    // The squad once chosen stays for the next match.
+    click(QStringLiteral("cmdSeguir"));
+    EXPECT_TRUE(placeText(13).startsWith(QStringLiteral("SUPLENTE7: ")));
+    EXPECT_FALSE(placeText(0).startsWith(QStringLiteral("PORTERO: PORTERO")));
+}
+
+// Guards: leaving by the frame after full time, which would lose the result and the week.
+TEST_F(MatchScreens, closingTheFinishedMatchByItsFrameRecordsItLikeSalir)
+{
+    reachFirstLeagueWeek();
+    click(QStringLiteral("cmdSeguir"));
+    for (int place = 0; place < 14; ++place)
+        placeRow(place, place);
+    click(QStringLiteral("cmdJugar"));
+    ASSERT_NE(match(), nullptr);
+    playHalf();
+    playHalf();
+    ASSERT_TRUE(match()->engine().finished());
+    match()->close();
+    settle();
+    EXPECT_EQ(match(), nullptr);
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("2"));
+    EXPECT_EQ(m_store->integer("select sum(\"Partidos_ Ganados\" + Partidos_Empatados + Partidos_Perdidos) from asobal"), 16);
+}

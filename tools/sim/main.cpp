@@ -1,0 +1,115 @@
+// zarpazo-sim: plays a career without a display, through the same game code the screens
+// call, and prints one JSON line with what happened.
+//
+//   zarpazo-sim --data-dir DIR [--seed S] [--club ID] [--friendlies K] [--weeks N]
+//
+// DIR/balonmano.mdb is restored from the pristine copy first and left there for inspection.
+
+#include "dialogs.h"
+#include "match/season.h"
+#include "random.h"
+#include "stadium/ledger.h"
+#include "store/gamestore.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+// Acknowledges every message and answers No to every question.
+class AutomaticDialogs final : public game::Dialogs
+{
+public:
+    void tell(const QString &, Icon, const QString &) override { ++told; }
+    bool ask(const QString &, const QString &) override
+    {
+        ++asked;
+        return false;
+    }
+    int told = 0;
+    int asked = 0;
+};
+
+int fail(const QString &message)
+{
+    std::fprintf(stderr, "zarpazo-sim: %s\n", qPrintable(message));
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("zarpazo-sim"));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Plays Zarpazo without a display."));
+    parser.addHelpOption();
+    const QCommandLineOption dataDir(QStringLiteral("data-dir"), QStringLiteral("Folder of the working database."),
+                                     QStringLiteral("DIR"));
+    const QCommandLineOption seed(QStringLiteral("seed"), QStringLiteral("Seed of chance."), QStringLiteral("S"));
+    const QCommandLineOption club(QStringLiteral("club"), QStringLiteral("The user's club, 1 to 16."),
+                                  QStringLiteral("ID"), QStringLiteral("1"));
+    const QCommandLineOption friendlies(QStringLiteral("friendlies"), QStringLiteral("Friendlies to play, 0 to 5."),
+                                        QStringLiteral("K"), QStringLiteral("0"));
+    const QCommandLineOption weeks(QStringLiteral("weeks"), QStringLiteral("Weeks to play at most."),
+                                   QStringLiteral("N"), QStringLiteral("0"));
+    const QCommandLineOption pristine(QStringLiteral("pristine"), QStringLiteral("The pristine database."),
+                                      QStringLiteral("FILE"),
+                                      QCoreApplication::applicationDirPath() + QStringLiteral("/balonmanoX.mdb"));
+    parser.addOptions({dataDir, seed, club, friendlies, weeks, pristine});
+    parser.process(app);
+    if (!parser.isSet(dataDir))
+        return fail(QStringLiteral("--data-dir is required"));
+    const int clubId = parser.value(club).toInt();
+    const int friendlyCount = parser.value(friendlies).toInt();
+    const int weekLimit = parser.value(weeks).toInt();
+    if (clubId < 1 || clubId > 16)
+        return fail(QStringLiteral("--club must be 1 to 16"));
+    if (friendlyCount < 0 || friendlyCount > 5)
+        return fail(QStringLiteral("--friendlies must be 0 to 5"));
+
+    QElapsedTimer clock;
+    clock.start();
+    QDir().mkpath(parser.value(dataDir));
+    game::GameStore store(QDir(parser.value(dataDir)).filePath(QStringLiteral("balonmano.mdb")), parser.value(pristine));
+    if (game::Result restored = store.restore(); !restored)
+        return fail(restored.message());
+    if (game::Result opened = store.open(); !opened)
+        return fail(opened.message());
+
+    std::unique_ptr<game::SystemRandom> random = parser.isSet(seed)
+                                                     ? std::make_unique<game::SystemRandom>(parser.value(seed).toULongLong())
+                                                     : std::make_unique<game::SystemRandom>();
+    AutomaticDialogs dialogs;
+    game::Context context{store, *random, dialogs};
+
+    game::AutoSeason season(context, {clubId, friendlyCount});
+    if (!season.begin())
+        return fail(season.failure());
+    while ((weekLimit == 0 || season.totals().weeks < weekLimit) && season.playWeek()) {
+    }
+    if (!season.failure().isEmpty())
+        return fail(season.failure());
+
+    const game::AutoSeason::Totals &totals = season.totals();
+    const QJsonObject report{
+        {QStringLiteral("weeks"), totals.weeks},
+        {QStringLiteral("matches"), totals.matches},
+        {QStringLiteral("goals_for"), totals.goalsFor},
+        {QStringLiteral("goals_against"), totals.goalsAgainst},
+        {QStringLiteral("budget"), double(game::Ledger(store).budget(clubId))},
+        {QStringLiteral("statements"), double(store.statementsRun())},
+        {QStringLiteral("messages"), dialogs.told},
+        {QStringLiteral("wall_ms"), double(clock.nsecsElapsed()) / 1e6},
+    };
+    std::printf("%s\n", QJsonDocument(report).toJson(QJsonDocument::Compact).constData());
+    return 0;
+}
