@@ -9,6 +9,13 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <ostream>
+
+// Failed expectations print texts as text, not as bytes.
+inline void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
 
 // A test that works on its own copy of the pristine database in a temporary folder, with
 // scripted chance and dialogs.

@@ -2,6 +2,7 @@
 
 #include "career/leagueclubs.h"
 #include "career/newcareer.h"
+#include "career/nationalities.h"
 #include "common/theme.h"
 #include "crestbutton.h"
 
@@ -21,29 +22,12 @@ namespace {
 
 constexpr int kCrestSide = 112;
 
-QLabel *caption(const QString &text)
-{
-    auto *label = new QLabel(text);
-    label->setStyleSheet(QStringLiteral("color: #b9c3d8; font-weight: bold;"));
-    return label;
-}
 
 } // namespace
 
 const QStringList &NewCareerScreen::nationalities()
 {
-    static const QStringList names{
-        QStringLiteral("Albania"), QStringLiteral("Argelia"), QStringLiteral("Australia"),
-        QStringLiteral("Alemania"), QStringLiteral("Brasil"), QStringLiteral("Canada"),
-        QStringLiteral("China"), QStringLiteral("Croacia"), QStringLiteral("Dinamarca"),
-        QStringLiteral("España"), QStringLiteral("Eslovenia"), QStringLiteral("Francia"),
-        QStringLiteral("Grecia"), QStringLiteral("Hungría"), QStringLiteral("Islandia"),
-        QStringLiteral("Italia"), QStringLiteral("Inglaterra"), QStringLiteral("Japón"),
-        QStringLiteral("Luxemburgo"), QStringLiteral("Macedonia"), QStringLiteral("Marruecos"),
-        QStringLiteral("Noruega"), QStringLiteral("Portugal"), QStringLiteral("Rusia"),
-        QStringLiteral("República Checa"), QStringLiteral("Suiza"), QStringLiteral("Suecia"),
-        QStringLiteral("Serbia-Montenegro"), QStringLiteral("Turquía"), QStringLiteral("Ucrania"),
-    };
+    static const QStringList names = game::nationalities(game::SerbiaSpelling::Hyphen);
     return names;
 }
 
@@ -75,10 +59,10 @@ NewCareerScreen::NewCareerScreen(game::Context context, QWidget *parent)
     form->setLabelAlignment(Qt::AlignRight);
     form->setHorizontalSpacing(14);
     form->setVerticalSpacing(12);
-    form->addRow(caption(tr("Nombre:")), m_nombre);
-    form->addRow(caption(tr("Apellidos:")), m_apellidos);
-    form->addRow(caption(tr("Tu Nacionalidad:")), m_nationality);
-    form->addRow(caption(tr("Equipo:")), m_chosen);
+    form->addRow(theme::fieldCaption(tr("Nombre:")), m_nombre);
+    form->addRow(theme::fieldCaption(tr("Apellidos:")), m_apellidos);
+    form->addRow(theme::fieldCaption(tr("Tu Nacionalidad:")), m_nationality);
+    form->addRow(theme::fieldCaption(tr("Equipo:")), m_chosen);
 
     auto *frame = new QGroupBox(tr("Equipos ASOBAL"));
     frame->setObjectName(QStringLiteral("Frame"));

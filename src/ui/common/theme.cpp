@@ -49,3 +49,14 @@ QLabel *heading(const QString &text, QWidget *parent)
 }
 
 } // namespace theme
+
+namespace theme {
+
+QLabel *fieldCaption(const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setStyleSheet(QStringLiteral("color: #b9c3d8; font-weight: bold;"));
+    return label;
+}
+
+} // namespace theme

@@ -15,6 +15,9 @@ inline const QColor kAmber{232, 163, 61};
 // Sets the fonts and the style sheet on the whole application.
 void apply(QApplication &app);
 
+// The caption of a field of a form ("Nombre:").
+QLabel *fieldCaption(const QString &text, QWidget *parent = nullptr);
+
 // A screen heading in the game's style ("INTRODUCE NOMBRE Y EQUIPO").
 QLabel *heading(const QString &text, QWidget *parent = nullptr);
 

@@ -1,6 +1,7 @@
 #include "addyouthscreen.h"
 
 #include "career/leagueclubs.h"
+#include "career/nationalities.h"
 #include "common/theme.h"
 #include "transfers/youthacademy.h"
 
@@ -18,12 +19,6 @@ namespace ui {
 
 namespace {
 
-QLabel *caption(const QString &text)
-{
-    auto *label = new QLabel(text);
-    label->setStyleSheet(QStringLiteral("color: #b9c3d8; font-weight: bold;"));
-    return label;
-}
 
 // A list that shows a prompt until something is chosen; currentText() is then empty.
 QComboBox *promptedList(const char *name, const QString &prompt, const QStringList &items)
@@ -75,18 +70,7 @@ QScrollBar *bar(const char *name, int low, int high)
 
 const QStringList &AddYouthScreen::countries()
 {
-    static const QStringList names{
-        QStringLiteral("Albania"), QStringLiteral("Argelia"), QStringLiteral("Australia"),
-        QStringLiteral("Alemania"), QStringLiteral("Brasil"), QStringLiteral("Canada"),
-        QStringLiteral("China"), QStringLiteral("Croacia"), QStringLiteral("Dinamarca"),
-        QStringLiteral("España"), QStringLiteral("Eslovenia"), QStringLiteral("Francia"),
-        QStringLiteral("Grecia"), QStringLiteral("Hungría"), QStringLiteral("Islandia"),
-        QStringLiteral("Italia"), QStringLiteral("Inglaterra"), QStringLiteral("Japón"),
-        QStringLiteral("Luxemburgo"), QStringLiteral("Macedonia"), QStringLiteral("Marruecos"),
-        QStringLiteral("Noruega"), QStringLiteral("Portugal"), QStringLiteral("Rusia"),
-        QStringLiteral("República Checa"), QStringLiteral("Suiza"), QStringLiteral("Suecia"),
-        QStringLiteral("Serbia Montenegro"), QStringLiteral("Turquía"), QStringLiteral("Ucrania"),
-    };
+    static const QStringList names = game::nationalities(game::SerbiaSpelling::Blank);
     return names;
 }
 
@@ -117,18 +101,18 @@ AddYouthScreen::AddYouthScreen(game::Context context, QWidget *parent) : QDialog
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(14);
     grid->setVerticalSpacing(12);
-    grid->addWidget(caption(tr("Nombre:")), 0, 0, Qt::AlignRight);
+    grid->addWidget(theme::fieldCaption(tr("Nombre:")), 0, 0, Qt::AlignRight);
     grid->addWidget(m_nombre, 0, 1, 1, 2);
-    grid->addWidget(caption(tr("Apellidos:")), 1, 0, Qt::AlignRight);
+    grid->addWidget(theme::fieldCaption(tr("Apellidos:")), 1, 0, Qt::AlignRight);
     grid->addWidget(m_apellidos, 1, 1, 1, 2);
-    grid->addWidget(caption(tr("Posición:")), 2, 0, Qt::AlignRight);
+    grid->addWidget(theme::fieldCaption(tr("Posición:")), 2, 0, Qt::AlignRight);
     grid->addWidget(m_position, 2, 1, 1, 2);
-    grid->addWidget(caption(tr("Nacionalidad:")), 3, 0, Qt::AlignRight);
+    grid->addWidget(theme::fieldCaption(tr("Nacionalidad:")), 3, 0, Qt::AlignRight);
     grid->addWidget(m_country, 3, 1, 1, 2);
-    grid->addWidget(caption(tr("Edad:")), 4, 0, Qt::AlignRight);
+    grid->addWidget(theme::fieldCaption(tr("Edad:")), 4, 0, Qt::AlignRight);
     grid->addWidget(m_edad, 4, 1);
     grid->addWidget(m_edadBar, 4, 2);
-    grid->addWidget(caption(tr("Dorsal:")), 5, 0, Qt::AlignRight);
+    grid->addWidget(theme::fieldCaption(tr("Dorsal:")), 5, 0, Qt::AlignRight);
     grid->addWidget(m_dorsal, 5, 1);
     grid->addWidget(m_dorsalBar, 5, 2);
     grid->setColumnStretch(2, 1);

@@ -308,3 +308,25 @@ TEST_F(EngineTest, announcesASystemOnlyWhenItChanges)
     engine.announceSystem(QStringLiteral("5-1"));
     EXPECT_EQ(engine.commentary().size(), 2u);
 }
+
+// Guards: a system that weighs in the result, which it must not.
+TEST(EngineSystems, twoMatchesWithTheSameDrawsEndAlikeWhateverTheSystem)
+{
+    std::array<int, 2> home{}, away{};
+    const char *systems[] = {"6-0", "3-2-1"};
+    for (int i = 0; i < 2; ++i) {
+        ScriptedRandom random(99);
+        MatchEngine engine(random, setupWithRatings(72));
+        engine.announceSystem(QString::fromLatin1(systems[i]));
+        for (int half = 0; half < 2; ++half) {
+            engine.start();
+            while (engine.running())
+                engine.tick();
+            engine.announceSystem(QStringLiteral("5-1"));
+        }
+        home[std::size_t(i)] = engine.score(0);
+        away[std::size_t(i)] = engine.score(1);
+    }
+    EXPECT_EQ(home[0], home[1]);
+    EXPECT_EQ(away[0], away[1]);
+}
