@@ -86,7 +86,8 @@ CREATE TABLE entrenadores (
     puntuacion           INTEGER NOT NULL
 );
 
--- The league table. puesto_anterior is the club's slot in the fixture template.
+-- The league table. puesto_anterior is the club's slot in the fixture template; the sixteen
+-- values are a permutation of 1 to 16, rewritten one club at a time when a season closes.
 CREATE TABLE asobal (
     teams                INTEGER PRIMARY KEY,
     "Partidos_ Ganados"  INTEGER NOT NULL DEFAULT 0,
@@ -95,7 +96,7 @@ CREATE TABLE asobal (
     Goles_Favor          INTEGER NOT NULL DEFAULT 0,
     Goles_Contra         INTEGER NOT NULL DEFAULT 0,
     Puntos               INTEGER NOT NULL DEFAULT 0,
-    puesto_anterior      INTEGER NOT NULL UNIQUE,
+    puesto_anterior      INTEGER NOT NULL,
     puesto_actual        INTEGER NOT NULL
 );
 

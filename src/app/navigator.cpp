@@ -52,8 +52,7 @@ void Navigator::show(QWidget *screen)
     if (m_stack->indexOf(screen) < 0)
         m_stack->addWidget(screen);
     m_stack->setCurrentWidget(screen);
-    m_window.setWindowTitle(screen->windowTitle().isEmpty() ? QStringLiteral("Zarpazo")
-                                                            : QStringLiteral("Zarpazo - ") + screen->windowTitle());
+    m_window.setWindowTitle(screen->windowTitle().isEmpty() ? QStringLiteral("Zarpazo") : screen->windowTitle());
 }
 
 template<typename Screen>
@@ -251,8 +250,13 @@ void Navigator::leaveMatch()
         return;
     const game::Fixture fixture = m_match->fixture();
     const game::MatchEngine &engine = m_match->engine();
-    game::Results(m_context).record(fixture, engine.score(0), engine.score(1));
+    const bool recorded = game::Results(m_context).record(fixture, engine.score(0), engine.score(1));
     unload(m_match);
+    if (!recorded) {
+        // The player has been told; the week stays open and its match can be played again.
+        backToPanel();
+        return;
+    }
     // The next week opens with a fresh panel; there is no other way to it.
     openWeekPanel();
 }

@@ -178,3 +178,28 @@ TEST_F(MatchScreens, closingTheFinishedMatchByItsFrameRecordsItLikeSalir)
     EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("2"));
     EXPECT_EQ(m_store->integer("select sum(\"Partidos_ Ganados\" + Partidos_Empatados + Partidos_Perdidos) from asobal"), 16);
 }
+
+// Guards: a week that moves on although its result could not be written.
+TEST_F(MatchScreens, aResultThatCannotBeWrittenKeepsTheWeekOpen)
+{
+    reachFirstLeagueWeek();
+    click(QStringLiteral("cmdSeguir"));
+    for (int place = 0; place < 14; ++place)
+        placeRow(place, place);
+    click(QStringLiteral("cmdJugar"));
+    ASSERT_NE(match(), nullptr);
+    playHalf();
+    playHalf();
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("create trigger no_results before update on liga_asobal begin select raise(abort, 'bloqueado'); end");
+    }).ok());
+    m_dialogs.clear();
+    click(QStringLiteral("cmdSalir"));
+    settle();
+    ASSERT_EQ(m_dialogs.texts().size(), 1);
+    EXPECT_TRUE(m_dialogs.texts().front().startsWith(QStringLiteral("No se ha podido completar")));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("1"));
+    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 1);
+    EXPECT_EQ(m_store->integer("select sum(Puntos) from asobal"), 0);
+}

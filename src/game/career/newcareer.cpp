@@ -31,7 +31,7 @@ bool NewCareer::start(const CareerChoice &choice)
         store.execute("delete from pretemporada");
         store.execute("delete from calendario");
         // A new career starts with an empty market.
-        store.execute("update jugadores set venta = 0");
+        store.execute("update jugadores set venta = 0 where venta <> 0");
         store.execute("update datos_jugador set jornada = 0, nombre = ?, apellidos = ?,"
                       " idequipo = ?, NombreEquipo = ?",
                       choice.nombre, choice.apellidos, choice.clubId, choice.clubCaption);

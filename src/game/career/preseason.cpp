@@ -91,7 +91,7 @@ int Preseason::choose(const QString &clubName)
     const int number = slot + 1;
     Slot filled;
     const Result result = store.run([&] {
-        const int rival = static_cast<int>(store.integer("select idequipo from equipos where NombreEquipo = ?", clubName));
+        const int rival = static_cast<int>(store.integer("select idequipo from equipos where NombreEquipo like ?", clubName));
         if (rival == 0)
             return;
         // The first four are played away; the fifth, the presentation, at home.

@@ -16,6 +16,13 @@ int WeekOpening::userClub(GameStore &store)
     return static_cast<int>(store.integer("select idequipo from datos_jugador"));
 }
 
+int WeekOpening::userClubOrZero(GameStore &store)
+{
+    int club = 0;
+    store.attempt([&] { club = userClub(store); });
+    return club;
+}
+
 std::optional<WeekOpening::Opened> WeekOpening::open()
 {
     GameStore &store = m_context.store;

@@ -28,9 +28,11 @@ public:
     // The opened week, or nothing when the store failed (the player has been told).
     std::optional<Opened> open();
 
-    // The career's current week and club, as the career row holds them.
+    // The career's current week and club, as the career row holds them. They throw on a store
+    // failure, for use inside a routine; the *OrZero forms give 0 instead, for the screens.
     static int currentWeek(GameStore &store);
     static int userClub(GameStore &store);
+    static int userClubOrZero(GameStore &store);
 
 private:
     Context m_context;

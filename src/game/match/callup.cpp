@@ -49,8 +49,9 @@ std::vector<CallUp::Player> CallUp::calledUp()
     std::vector<Player> players;
     m_context.store.attempt([&] {
         GameStore::Query rows = m_context.store.query(
-            "select m.idjugador, m.Nombre, m.Apellidos, m.Posicion, m.Media, j.Dorsal, j.Lesiones"
-            " from miequipo m join jugadores j on j.idjugador = m.idjugador order by m.rowid");
+            "select m.idjugador, m.Nombre, m.Apellidos, m.Posicion, m.Media, coalesce(j.Dorsal, 0),"
+            " coalesce(j.Lesiones, 0) from miequipo m left join jugadores j on j.idjugador = m.idjugador"
+            " order by m.rowid");
         while (rows.next()) {
             players.push_back({rows.integer(0), rows.text(1), rows.text(2), rows.text(3), rows.integer(4),
                                rows.integer(5), rows.integer(6)});
@@ -90,7 +91,9 @@ bool CallUp::place(int placeIndex, int playerId)
 
 bool CallUp::readyToPlay()
 {
-    const qint64 filled = m_context.store.integer("select count(idjugador) from miequipo where idjugador <> 0");
+    qint64 filled = 0;
+    m_context.store.attempt(
+        [&] { filled = m_context.store.integer("select count(idjugador) from miequipo where idjugador <> 0"); });
     if (filled != kPlaces) {
         m_context.dialogs.tell(QObject::tr("Debes Seleccionar 14 Jugadores para la Covocatoria"));
         return false;

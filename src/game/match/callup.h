@@ -50,7 +50,8 @@ public:
     // The club's players, ordered by position.
     std::vector<Player> squad();
 
-    // The players of the fourteen places, in place order (free places left out).
+    // The fourteen places as players, in place order; a free place has id 0 and its own key
+    // as the name.
     std::vector<Player> calledUp();
 
     // Puts the player in the place: out of any place he held, and whoever stood there is out

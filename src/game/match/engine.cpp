@@ -53,6 +53,8 @@ MatchEngine::MatchEngine(Random &random, Setup setup) : m_random(random), m_setu
         if (!m_setup.rival[std::size_t(i)].goalkeeper)
             m_rivalShooters.push_back(i);
     }
+    if (!m_setup.system.isEmpty())
+        announceSystem(m_setup.system);
 }
 
 QString MatchEngine::goalsText(int side) const

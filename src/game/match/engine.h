@@ -71,8 +71,10 @@ public:
         QString userClubName;  // as the career row holds it, for the announcements
         std::array<Row, kRows> rows;
         std::vector<RivalPlayer> rival;
+        QString system;        // the defensive system the club starts with
     };
 
+    // A match opens with the announcement of its starting system, at minute 0.
     MatchEngine(Random &random, Setup setup);
 
     // The names of the rows and the captions of their places on the court.

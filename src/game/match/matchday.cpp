@@ -11,6 +11,7 @@ MatchEngine::Setup MatchDay::setup(const Fixture &fixture)
     MatchEngine::Setup setup;
     setup.homeName = fixture.homeName;
     setup.awayName = fixture.awayName;
+    setup.system = storedDefence();
     m_context.store.attempt([&] {
         const QString userClub = store.text("select NombreEquipo from datos_jugador");
         setup.userClubName = userClub;

@@ -65,7 +65,6 @@ bool AutoSeason::playWeek()
     }
     MatchDay matchDay(m_context);
     MatchEngine engine(m_context.random, matchDay.setup(*fixture));
-    engine.announceSystem(matchDay.storedDefence());
     Gate(m_context).settle(*fixture);
     for (int half = 0; half < 2; ++half) {
         engine.start();

@@ -32,12 +32,21 @@ int Tactics::attackPicture(int code)
 
 int Tactics::defenceCode()
 {
-    return int(m_context.store.integer("select precio_entrada from entradas where idPrecio = ?", kDefenceRow));
+    return storedCode(kDefenceRow);
 }
 
 int Tactics::attackCode()
 {
-    return int(m_context.store.integer("select precio_entrada from entradas where idPrecio = ?", kAttackRow));
+    return storedCode(kAttackRow);
+}
+
+int Tactics::storedCode(int row)
+{
+    // A store that cannot be read shows no system rather than ending the game.
+    int code = 0;
+    m_context.store.attempt(
+        [&] { code = int(m_context.store.integer("select precio_entrada from entradas where idPrecio = ?", row)); });
+    return code;
 }
 
 void Tactics::setDefence(int code)

@@ -30,6 +30,7 @@ public:
 
 private:
     void store(int row, int code);
+    int storedCode(int row);
 
     Context m_context;
 };

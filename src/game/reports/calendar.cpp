@@ -7,11 +7,11 @@ namespace game {
 std::vector<Calendar::Row> Calendar::rows(int week, int userClub)
 {
     std::vector<Row> rows(kWeeksShown);
-    m_store.attempt([&] {
-        for (int i = 0; i < kWeeksShown; ++i) {
+    for (int i = 0; i < kWeeksShown; ++i) {
+        m_store.attempt([&] {
             const std::optional<Fixture> fixture = fixtureOfWeek(m_store, week + i, userClub);
             if (!fixture)
-                continue;
+                return;
             Row &row = rows[std::size_t(i)];
             row.empty = false;
             row.fixture = fixture->homeName + QStringLiteral(" - ") + fixture->awayName;
@@ -24,8 +24,8 @@ std::vector<Calendar::Row> Calendar::rows(int week, int userClub)
                 // The fifth slot is the presentation of the squad to the home crowd.
                 row.subtype = fixture->idpartido == 5 ? QStringLiteral("Presentación") : QStringLiteral("Preparación");
             }
-        }
-    });
+        });
+    }
     return rows;
 }
 

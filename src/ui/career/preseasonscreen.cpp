@@ -162,12 +162,14 @@ QWidget *PreseasonScreen::buildSlots()
     m_decline->setProperty("role", QStringLiteral("secondary"));
     connect(m_decline, &QPushButton::clicked, this, [this] {
         m_planner.decline();
+        m_decline->setEnabled(m_planner.slotsDealt() < game::Preseason::kSlots);
         showSlots();
     });
     auto *erase = new QPushButton(tr("Borrar Partido"));
     erase->setObjectName(QStringLiteral("cmdBorrar"));
     erase->setProperty("role", QStringLiteral("secondary"));
     connect(erase, &QPushButton::clicked, this, [this] {
+        m_decline->setEnabled(true);
         m_planner.takeBack();
         showSlots();
     });
@@ -236,7 +238,6 @@ void PreseasonScreen::showSlots()
         indexed::find(this, QStringLiteral("lblEquipoLocal"), slot)->setText(home);
         indexed::find(this, QStringLiteral("lblEquipoVis"), slot)->setText(away);
     }
-    m_decline->setEnabled(m_planner.slotsDealt() < game::Preseason::kSlots);
 }
 
 } // namespace ui

@@ -187,7 +187,7 @@ void WeekPanel::runWeekEvents()
 
 void WeekPanel::refreshFixture()
 {
-    const int club = game::WeekOpening::userClub(m_context.store);
+    const int club = game::WeekOpening::userClubOrZero(m_context.store);
     m_context.store.attempt([&] { m_fixture = game::fixtureOfWeek(m_context.store, m_week, club); });
     m_home->setText(m_fixture ? m_fixture->homeName : QString());
     m_away->setText(m_fixture ? m_fixture->awayName : QString());

@@ -82,12 +82,9 @@ MatchScreen::MatchScreen(game::Context context, const game::Fixture &fixture, QW
     layout->addWidget(buildScoreboard());
     layout->addLayout(body, 1);
 
-    // The match opens with the announcement of the stored system, at minute 0.
+    // The list shows the system the match opened with; the engine has announced it.
     m_system->addItems(game::Tactics::defences());
-    const int stored = m_system->findText(matchDay.storedDefence());
-    m_system->setCurrentIndex(stored);
-    if (stored >= 0)
-        m_engine->announceSystem(m_system->currentText());
+    m_system->setCurrentIndex(m_system->findText(m_engine->setup().system));
     connect(m_system, &QComboBox::activated, this, [this] { m_engine->announceSystem(m_system->currentText()); refresh(); });
     findChild<QComboBox *>(QStringLiteral("DataCombo1"))->addItems(matchDay.squadSurnames());
 

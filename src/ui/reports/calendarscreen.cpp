@@ -29,7 +29,7 @@ CalendarScreen::CalendarScreen(game::Context context, int currentWeek, QWidget *
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QStringLiteral("QWidget#Calendario { background-color: #0f1e3c; }"));
 
-    const int club = game::WeekOpening::userClub(context.store);
+    const int club = game::WeekOpening::userClubOrZero(context.store);
     const std::vector<game::Calendar::Row> rows = game::Calendar(context.store).rows(currentWeek, club);
 
     auto *grid = new QGridLayout;

@@ -132,7 +132,8 @@ AddYouthScreen::AddYouthScreen(game::Context context, QWidget *parent) : QDialog
     buttons->addWidget(agregar);
 
     auto *note = new QLabel(tr("Los juveniles entran en la cantera con una media de 95, una ficha de 1000 € "
-                               "y cinco años de contrato. Cualquier equipo podrá ficharlos desde «JUVENILES»."));
+                               "y cinco años de contrato. En tu carrera podrás ficharlos desde la plantilla, "
+                               "en «JUVENILES»."));
     note->setProperty("role", QStringLiteral("hint"));
     note->setWordWrap(true);
 

@@ -297,10 +297,11 @@ TEST_F(EngineTest, anExchangeWritesTheRowsAsTheyWereWhenPicked)
     EXPECT_EQ(engine.row(8).entry(3), QStringLiteral("0/0"));
 }
 
-TEST_F(EngineTest, announcesASystemOnlyWhenItChanges)
+TEST_F(EngineTest, announcesTheStartingSystemThenOnlyChanges)
 {
-    MatchEngine engine(m_random, setupWithRatings(70));
-    engine.announceSystem(QStringLiteral("6-0"));
+    MatchEngine::Setup setup = setupWithRatings(70);
+    setup.system = QStringLiteral("6-0");
+    MatchEngine engine(m_random, setup);
     engine.announceSystem(QStringLiteral("6-0"));
     ASSERT_EQ(engine.commentary().size(), 1u);
     EXPECT_EQ(engine.commentary().front().text, QStringLiteral("(0)-> El BM VALENCIA Cambia la Táctica a 6-0"));
