@@ -43,6 +43,19 @@ bool AutoSeason::begin()
 
 bool AutoSeason::playWeek()
 {
+    // The whole week is one transaction: its opening, its events, the call-up, the gate and
+    // the result, so a headless season never leaves a week half written.
+    bool goOn = false;
+    const Result week = m_context.store.run([&] { goOn = playWeekBody(); });
+    if (!week) {
+        m_failure = week.message();
+        return false;
+    }
+    return goOn;
+}
+
+bool AutoSeason::playWeekBody()
+{
     const std::optional<WeekOpening::Opened> opened = WeekOpening(m_context).open();
     if (!opened) {
         m_failure = QStringLiteral("the week could not open");

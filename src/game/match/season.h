@@ -47,6 +47,8 @@ public:
     const QString &failure() const { return m_failure; }
 
 private:
+    bool playWeekBody();
+
     Context m_context;
     Options m_options;
     Totals m_totals;

@@ -12,6 +12,8 @@
 #include <string>
 #include <unordered_map>
 #include <utility>
+#include <variant>
+#include <vector>
 
 namespace game {
 
@@ -80,12 +82,21 @@ public:
     // SQLite::Exception on failure, which run() and attempt() turn into a value.
     SQLite::Statement &statement(const std::string &sql);
 
+    // A statement as it was run, with its values: what the benchmarks replay on raw SQLite.
+    struct TracedStatement
+    {
+        std::string sql;
+        std::vector<std::variant<qint64, double, std::string>> values;
+    };
+    // Records every statement run through query(), execute(), integer() and text() into
+    // trace, or stops recording with nullptr.
+    void setTrace(std::vector<TracedStatement> *trace) { m_trace = trace; }
+
     // Runs a select, binding args to its ?s in order; read the rows with next().
     template<typename... Args>
     Query query(const std::string &sql, const Args &...args)
     {
-        SQLite::Statement &prepared = statement(sql);
-        bindAll(prepared, args...);
+        SQLite::Statement &prepared = prepare(sql, args...);
         return Query(prepared);
     }
 
@@ -94,17 +105,14 @@ public:
     template<typename... Args>
     int execute(const std::string &sql, const Args &...args)
     {
-        SQLite::Statement &query = statement(sql);
-        bindAll(query, args...);
-        return query.exec();
+        return prepare(sql, args...).exec();
     }
 
     // The first column of the first row, or fallback when there is no row or it is NULL.
     template<typename... Args>
     qint64 integer(const std::string &sql, const Args &...args)
     {
-        SQLite::Statement &query = statement(sql);
-        bindAll(query, args...);
+        SQLite::Statement &query = prepare(sql, args...);
         qint64 value = 0;
         if (query.executeStep() && !query.getColumn(0).isNull())
             value = query.getColumn(0).getInt64();
@@ -115,8 +123,7 @@ public:
     template<typename... Args>
     QString text(const std::string &sql, const Args &...args)
     {
-        SQLite::Statement &query = statement(sql);
-        bindAll(query, args...);
+        SQLite::Statement &query = prepare(sql, args...);
         QString value;
         if (query.executeStep())
             value = columnText(query, 0);
@@ -145,6 +152,23 @@ public:
     }
 
 private:
+    template<typename... Args>
+    SQLite::Statement &prepare(const std::string &sql, const Args &...args)
+    {
+        SQLite::Statement &prepared = statement(sql);
+        bindAll(prepared, args...);
+        if (m_trace)
+            m_trace->push_back({sql, {traced(args)...}});
+        return prepared;
+    }
+    static std::variant<qint64, double, std::string> traced(int value) { return qint64(value); }
+    static std::variant<qint64, double, std::string> traced(long value) { return qint64(value); }
+    static std::variant<qint64, double, std::string> traced(long long value) { return qint64(value); }
+    static std::variant<qint64, double, std::string> traced(double value) { return value; }
+    static std::variant<qint64, double, std::string> traced(const QString &value) { return value.toStdString(); }
+    static std::variant<qint64, double, std::string> traced(const char *value) { return std::string(value); }
+    static std::variant<qint64, double, std::string> traced(const std::string &value) { return value; }
+
     static void bindValue(SQLite::Statement &query, int index, int value) { query.bind(index, value); }
     static void bindValue(SQLite::Statement &query, int index, long value)
     {
@@ -174,6 +198,7 @@ private:
     std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> m_statements;
     int m_transactionDepth = 0;
     quint64 m_statementsRun = 0;
+    std::vector<TracedStatement> *m_trace = nullptr;
 };
 
 } // namespace game
