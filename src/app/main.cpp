@@ -1,6 +1,5 @@
 // Zarpazo: a handball club manager of the Liga ASOBAL.
 
-#include "career/infopage.h"
 #include "common/messageboxdialogs.h"
 #include "common/theme.h"
 #include "navigator.h"
