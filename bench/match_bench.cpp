@@ -2,7 +2,7 @@
 // a whole headless season next to the number of statements it ran and what those statements
 // cost on raw SQLite, reused and in one transaction.
 
-#include "dialogs.h"
+#include "benchsupport.h"
 #include "match/engine.h"
 #include "match/season.h"
 #include "random.h"
@@ -22,19 +22,7 @@
 
 namespace {
 
-class SilentDialogs final : public game::Dialogs
-{
-public:
-    void tell(const QString &, Icon, const QString &) override {}
-    bool ask(const QString &, const QString &) override { return false; }
-};
 
-using Clock = std::chrono::steady_clock;
-
-double seconds(Clock::duration d)
-{
-    return std::chrono::duration<double>(d).count();
-}
 
 game::MatchEngine::Setup setup()
 {

@@ -4,7 +4,7 @@
 #include "career/newcareer.h"
 #include "career/preseason.h"
 #include "career/weekopening.h"
-#include "dialogs.h"
+#include "benchsupport.h"
 #include "random.h"
 #include "store/gamestore.h"
 
@@ -17,14 +17,6 @@
 
 namespace {
 
-class SilentDialogs final : public game::Dialogs
-{
-public:
-    void tell(const QString &, Icon, const QString &) override {}
-    bool ask(const QString &, const QString &) override { return false; }
-};
-
-using Clock = std::chrono::steady_clock;
 
 double micros(Clock::duration d)
 {

@@ -41,6 +41,20 @@ protected:
         return indexed::find(match(), QString::fromLatin1(row), index)->text();
     }
 
+    // Week 1's league match, the first fourteen of the grid called up, played to full time.
+    void playFirstLeagueMatchToFullTime()
+    {
+        reachFirstLeagueWeek();
+        click(QStringLiteral("cmdSeguir"));
+        for (int place = 0; place < 14; ++place)
+            placeRow(place, place);
+        click(QStringLiteral("cmdJugar"));
+        if (!match())
+            return;
+        playHalf();
+        playHalf();
+    }
+
     void playHalf()
     {
         click(QStringLiteral("cmdStart"));
@@ -163,14 +177,8 @@ TEST_F(MatchScreens, aMatchIsCalledUpPlayedChangedAndLeftForTheNextWeek)
 // Guards: leaving by the frame after full time, which would lose the result and the week.
 TEST_F(MatchScreens, closingTheFinishedMatchByItsFrameRecordsItLikeSalir)
 {
-    reachFirstLeagueWeek();
-    click(QStringLiteral("cmdSeguir"));
-    for (int place = 0; place < 14; ++place)
-        placeRow(place, place);
-    click(QStringLiteral("cmdJugar"));
+    playFirstLeagueMatchToFullTime();
     ASSERT_NE(match(), nullptr);
-    playHalf();
-    playHalf();
     ASSERT_TRUE(match()->engine().finished());
     match()->close();
     settle();
@@ -182,14 +190,8 @@ TEST_F(MatchScreens, closingTheFinishedMatchByItsFrameRecordsItLikeSalir)
 // Guards: a week that moves on although its result could not be written.
 TEST_F(MatchScreens, aResultThatCannotBeWrittenKeepsTheWeekOpen)
 {
-    reachFirstLeagueWeek();
-    click(QStringLiteral("cmdSeguir"));
-    for (int place = 0; place < 14; ++place)
-        placeRow(place, place);
-    click(QStringLiteral("cmdJugar"));
+    playFirstLeagueMatchToFullTime();
     ASSERT_NE(match(), nullptr);
-    playHalf();
-    playHalf();
     ASSERT_TRUE(m_store->run([&] {
         m_store->execute("create trigger no_results before update on liga_asobal begin select raise(abort, 'bloqueado'); end");
     }).ok());

@@ -1,4 +1,5 @@
 #include "artwork.h"
+#include "artwork_paint.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -53,39 +54,6 @@ QPolygonF areaLine(qreal radius, int side)
     return line;
 }
 
-// The same line broken into dashes, as the free-throw line is painted.
-QPainterPath dashed(const QPolygonF &line, qreal dash, qreal gap)
-{
-    QPainterPath out;
-    qreal carried = 0;
-    bool drawing = true;
-    for (int i = 1; i < line.size(); ++i) {
-        QPointF a = line[i - 1];
-        const QPointF b = line[i];
-        qreal segment = std::hypot(b.x() - a.x(), b.y() - a.y());
-        if (drawing && carried == 0)
-            out.moveTo(a);
-        while (segment > 0) {
-            const qreal room = (drawing ? dash : gap) - carried;
-            const qreal step = std::min(room, segment);
-            const QPointF dir = (b - a) / std::max<qreal>(1e-9, std::hypot(b.x() - a.x(), b.y() - a.y()));
-            const QPointF next = a + dir * step;
-            if (drawing)
-                out.lineTo(next);
-            a = next;
-            segment -= step;
-            carried += step;
-            if (carried >= (drawing ? dash : gap) - 1e-9) {
-                carried = 0;
-                drawing = !drawing;
-                if (drawing)
-                    out.moveTo(a);
-            }
-        }
-    }
-    return out;
-}
-
 QPainterPath polyPath(const QPolygonF &poly)
 {
     QPainterPath path;
@@ -111,7 +79,7 @@ QPainterPath courtLines(qreal fromX, qreal toX)
         if (side * kHalfLength < fromX - 0.1 || side * kHalfLength > toX + 0.1)
             continue;
         lines.addPath(polyPath(areaLine(6.0, side)));
-        lines.addPath(dashed(areaLine(9.0, side), 0.45, 0.35));
+        lines.addPath(detail::dashed(areaLine(9.0, side), 0.45, 0.35));
         lines.moveTo(side * (kHalfLength - 7.0), -0.5); // the 7 m mark
         lines.lineTo(side * (kHalfLength - 7.0), 0.5);
         lines.moveTo(side * (kHalfLength - 4.0), -0.08); // the goalkeeper's 4 m mark

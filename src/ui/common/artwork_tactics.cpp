@@ -1,4 +1,5 @@
 #include "artwork.h"
+#include "artwork_paint.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -68,41 +69,6 @@ QPolygonF areaLine(qreal radius)
     return line;
 }
 
-// The same line broken into dashes, as the free-throw line is painted.
-QPainterPath dashed(const QPolygonF &line, qreal dash, qreal gap)
-{
-    QPainterPath out;
-    qreal carried = 0;
-    bool drawing = true;
-    for (int i = 1; i < line.size(); ++i) {
-        QPointF a = line[i - 1];
-        const QPointF b = line[i];
-        const qreal length = std::hypot(b.x() - a.x(), b.y() - a.y());
-        if (length < 1e-9)
-            continue;
-        const QPointF dir = (b - a) / length;
-        qreal segment = length;
-        if (drawing && carried == 0)
-            out.moveTo(a);
-        while (segment > 1e-9) {
-            const qreal room = (drawing ? dash : gap) - carried;
-            const qreal step = std::min(room, segment);
-            const QPointF next = a + dir * step;
-            if (drawing)
-                out.lineTo(next);
-            a = next;
-            segment -= step;
-            carried += step;
-            if (carried >= (drawing ? dash : gap) - 1e-9) {
-                carried = 0;
-                drawing = !drawing;
-                if (drawing)
-                    out.moveTo(a);
-            }
-        }
-    }
-    return out;
-}
 
 // A point at the given distance from the goal, `along` metres from the middle of the
 // court measured on that line itself (negative toward the left side line). Players of
@@ -243,7 +209,7 @@ void paintCourt(QPainter &p)
     QPainterPath lines;
     lines.addRect(field);
     lines.addPolygon(areaLine(6.0));
-    lines.addPath(dashed(areaLine(9.0), 0.62, 0.42));
+    lines.addPath(detail::dashed(areaLine(9.0), 0.62, 0.42));
     lines.moveTo(-0.5, 7.0); // the 7 m mark
     lines.lineTo(0.5, 7.0);
     lines.moveTo(-0.1, 4.0); // the goalkeeper's 4 m mark
