@@ -34,23 +34,24 @@ protected:
     // The league fixtures of the club's template position, in round order.
     std::vector<int> leagueFixturesOf(int club)
     {
-        SQLite::Statement &query = m_store->statement(
+        const int position = static_cast<int>(
+            m_store->integer("select puesto_anterior from asobal where teams = ?", club));
+        game::GameStore::Query query = m_store->query(
             "select idpartido from liga_asobal where ?1 in (pos_equipo_local, pos_equipo_visitante)"
-            " order by jornada");
-        game::GameStore::bindAll(query, static_cast<int>(m_store->integer(
-                                            "select puesto_anterior from asobal where teams = ?", club)));
+            " order by jornada",
+            position);
         std::vector<int> ids;
-        while (query.executeStep())
-            ids.push_back(query.getColumn(0).getInt());
+        while (query.next())
+            ids.push_back(query.integer(0));
         return ids;
     }
 
     std::vector<int> calendarFixtures()
     {
-        SQLite::Statement &query = m_store->statement("select idpartido from calendario order by semana");
+        game::GameStore::Query query = m_store->query("select idpartido from calendario order by semana");
         std::vector<int> ids;
-        while (query.executeStep())
-            ids.push_back(query.getColumn(0).getInt());
+        while (query.next())
+            ids.push_back(query.integer(0));
         return ids;
     }
 };

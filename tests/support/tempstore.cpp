@@ -13,11 +13,11 @@ void StoreTest::SetUp()
 
 QString StoreTest::dump(const std::string &table)
 {
-    SQLite::Statement &query = m_store->statement("select * from " + table + " order by rowid");
+    game::GameStore::Query query = m_store->query("select * from " + table + " order by rowid");
     QString text;
-    while (query.executeStep()) {
-        for (int column = 0; column < query.getColumnCount(); ++column)
-            text += game::GameStore::columnText(query, column) + QLatin1Char('|');
+    while (query.next()) {
+        for (int column = 0; column < query.columns(); ++column)
+            text += query.text(column) + QLatin1Char('|');
         text += QLatin1Char('\n');
     }
     return text;

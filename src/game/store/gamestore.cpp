@@ -8,9 +8,53 @@
 #include <QObject>
 #include <QSaveFile>
 
+#include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
+#include <SQLiteCpp/Statement.h>
+
+#include <string>
+#include <unordered_map>
 
 namespace game {
+
+// One compiled statement. It is busy while a Query reads through it; a query of the same text
+// run meanwhile gets another statement of its own.
+struct GameStore::Prepared
+{
+    Prepared(SQLite::Database &db, const std::string &sql) : statement(db, sql) {}
+    SQLite::Statement statement;
+    bool busy = false;
+    bool done = false;
+};
+
+struct GameStore::Connection
+{
+    explicit Connection(const std::string &path)
+        : db(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX)
+    {
+    }
+
+    struct TextHash
+    {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
+    };
+
+    SQLite::Database db;
+    // Every statement compiled for a text; usually one, more while queries of it are nested.
+    std::unordered_map<std::string, std::vector<std::unique_ptr<Prepared>>, TextHash, std::equal_to<>> statements;
+
+    void resetAll()
+    {
+        for (auto &[text, pool] : statements) {
+            for (auto &prepared : pool) {
+                prepared->statement.tryReset();
+                prepared->busy = false;
+                prepared->done = false;
+            }
+        }
+    }
+};
 
 namespace {
 
@@ -61,7 +105,7 @@ GameStore::~GameStore()
 
 Result GameStore::open()
 {
-    if (m_db)
+    if (m_connection)
         return Result::success();
     if (!QFileInfo::exists(m_workingPath)) {
         QDir().mkpath(QFileInfo(m_workingPath).absolutePath());
@@ -75,13 +119,12 @@ Result GameStore::openConnection()
 {
     try {
         // One thread uses the connection, so SQLite's own locking is not needed.
-        auto db = std::make_unique<SQLite::Database>(m_workingPath.toStdString(),
-                                                     SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
-        db->exec("PRAGMA journal_mode=WAL");
-        db->exec("PRAGMA synchronous=NORMAL");
-        db->exec("PRAGMA foreign_keys=OFF");
-        registerUnicodeLike(db->getHandle());
-        m_db = std::move(db);
+        auto connection = std::make_unique<Connection>(m_workingPath.toStdString());
+        connection->db.exec("PRAGMA journal_mode=WAL");
+        connection->db.exec("PRAGMA synchronous=NORMAL");
+        connection->db.exec("PRAGMA foreign_keys=OFF");
+        registerUnicodeLike(connection->db.getHandle());
+        m_connection = std::move(connection);
         return Result::success();
     } catch (const std::exception &e) {
         return Result::failure(QObject::tr("No se puede abrir la base de datos de la partida (%1).\n(%2)")
@@ -91,15 +134,14 @@ Result GameStore::openConnection()
 
 void GameStore::close()
 {
-    // Statements belong to the connection and must go before it.
-    m_statements.clear();
-    m_db.reset();
+    // The connection's statements go with it, before the database is closed.
+    m_connection.reset();
     m_transactionDepth = 0;
 }
 
 void GameStore::ensureOpen()
 {
-    if (m_db)
+    if (m_connection)
         return;
     if (Result opened = open(); !opened)
         throw SQLite::Exception(opened.message().toStdString());
@@ -114,17 +156,152 @@ Result GameStore::restore()
     return replaced;
 }
 
-SQLite::Statement &GameStore::statement(const std::string &sql)
+GameStore::Prepared &GameStore::start(std::string_view sql, std::span<const Value> values)
 {
     ensureOpen();
     ++m_statementsRun;
-    auto found = m_statements.find(sql);
-    if (found == m_statements.end())
-        found = m_statements.emplace(sql, std::make_unique<SQLite::Statement>(*m_db, sql)).first;
-    SQLite::Statement &query = *found->second;
-    query.tryReset();
-    query.clearBindings();
-    return query;
+    auto found = m_connection->statements.find(sql);
+    if (found == m_connection->statements.end())
+        found = m_connection->statements.emplace(std::string(sql), std::vector<std::unique_ptr<Prepared>>()).first;
+    Prepared *free = nullptr;
+    for (auto &candidate : found->second) {
+        if (!candidate->busy) {
+            free = candidate.get();
+            break;
+        }
+    }
+    if (!free) {
+        found->second.push_back(std::make_unique<Prepared>(m_connection->db, found->first));
+        ++m_statementsPrepared;
+        free = found->second.back().get();
+    }
+    SQLite::Statement &statement = free->statement;
+    statement.tryReset();
+    statement.clearBindings();
+    free->done = false;
+    int index = 0;
+    for (const Value &value : values) {
+        ++index;
+        switch (value.kind()) {
+        case Value::Kind::Null:
+            statement.bind(index);
+            break;
+        case Value::Kind::Integer:
+            statement.bind(index, static_cast<int64_t>(value.integer()));
+            break;
+        case Value::Kind::Real:
+            statement.bind(index, value.real());
+            break;
+        case Value::Kind::Utf8:
+            statement.bind(index, std::string(value.utf8()));
+            break;
+        case Value::Kind::Utf16:
+            statement.bind(index, value.utf16().toStdString());
+            break;
+        }
+    }
+    if (m_trace)
+        trace(sql, values);
+    return *free;
+}
+
+void GameStore::trace(std::string_view sql, std::span<const Value> values)
+{
+    TracedStatement step{std::string(sql), {}};
+    for (const Value &value : values) {
+        switch (value.kind()) {
+        case Value::Kind::Null:
+            step.values.emplace_back(std::string());
+            break;
+        case Value::Kind::Integer:
+            step.values.emplace_back(value.integer());
+            break;
+        case Value::Kind::Real:
+            step.values.emplace_back(value.real());
+            break;
+        case Value::Kind::Utf8:
+            step.values.emplace_back(std::string(value.utf8()));
+            break;
+        case Value::Kind::Utf16:
+            step.values.emplace_back(value.utf16().toStdString());
+            break;
+        }
+    }
+    m_trace->push_back(std::move(step));
+}
+
+int GameStore::changesOf(std::string_view sql, std::span<const Value> values)
+{
+    Prepared &prepared = start(sql, values);
+    const int changed = prepared.statement.exec();
+    prepared.statement.tryReset();
+    return changed;
+}
+
+qint64 GameStore::integerOf(std::string_view sql, std::span<const Value> values)
+{
+    Prepared &prepared = start(sql, values);
+    qint64 value = 0;
+    if (prepared.statement.executeStep() && !prepared.statement.getColumn(0).isNull())
+        value = prepared.statement.getColumn(0).getInt64();
+    prepared.statement.tryReset(); // a statement left stepping would hold its table
+    return value;
+}
+
+QString GameStore::textOf(std::string_view sql, std::span<const Value> values)
+{
+    Prepared &prepared = start(sql, values);
+    QString value;
+    if (prepared.statement.executeStep()) {
+        const SQLite::Column column = prepared.statement.getColumn(0);
+        value = QString::fromUtf8(column.getText(), column.getBytes());
+    }
+    prepared.statement.tryReset();
+    return value;
+}
+
+GameStore::Query::Query(Prepared &prepared) : m_prepared(&prepared)
+{
+    m_prepared->busy = true;
+}
+
+GameStore::Query::~Query()
+{
+    if (m_prepared) {
+        m_prepared->statement.tryReset();
+        m_prepared->busy = false;
+        m_prepared->done = false;
+    }
+}
+
+bool GameStore::Query::next()
+{
+    if (m_prepared->done)
+        return false;
+    const bool row = m_prepared->statement.executeStep();
+    m_prepared->done = !row;
+    return row;
+}
+
+int GameStore::Query::integer(int column) const
+{
+    return m_prepared->statement.getColumn(column).getInt();
+}
+
+qint64 GameStore::Query::integer64(int column) const
+{
+    return m_prepared->statement.getColumn(column).getInt64();
+}
+
+QString GameStore::Query::text(int column) const
+{
+    const SQLite::Column value = m_prepared->statement.getColumn(column);
+    return QString::fromUtf8(value.getText(), value.getBytes());
+}
+
+int GameStore::Query::columns() const
+{
+    return m_prepared->statement.getColumnCount();
 }
 
 Result GameStore::run(const std::function<void()> &body)
@@ -135,23 +312,24 @@ Result GameStore::run(const std::function<void()> &body)
     }
     try {
         ensureOpen();
-        m_db->exec("BEGIN IMMEDIATE");
+        m_connection->db.exec("BEGIN IMMEDIATE");
     } catch (const std::exception &e) {
         return Result::failure(storeFailure(e));
     }
     ++m_transactionDepth;
     try {
         body();
-        m_db->exec("COMMIT");
+        m_connection->db.exec("COMMIT");
         --m_transactionDepth;
         return Result::success();
     } catch (const std::exception &e) {
         --m_transactionDepth;
         // Finish any statement still stepping, or the rollback would fail on a busy table.
-        for (auto &[text, query] : m_statements)
-            query->tryReset();
+        if (m_connection)
+            m_connection->resetAll();
         try {
-            m_db->exec("ROLLBACK");
+            if (m_connection)
+                m_connection->db.exec("ROLLBACK");
         } catch (const std::exception &) {
             // Nothing more can be done; SQLite rolls back an open transaction at close.
         }
@@ -164,15 +342,9 @@ bool GameStore::attempt(const std::function<void()> &step)
     try {
         step();
         return true;
-    } catch (const SQLite::Exception &) {
+    } catch (const std::runtime_error &) { // the database's failures, SQLite's own included
         return false;
     }
-}
-
-QString GameStore::columnText(SQLite::Statement &query, int column)
-{
-    const SQLite::Column value = query.getColumn(column);
-    return QString::fromUtf8(value.getText(), value.getBytes());
 }
 
 } // namespace game

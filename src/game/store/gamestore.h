@@ -4,13 +4,14 @@
 
 #include <QString>
 
-#include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Statement.h>
-
+#include <array>
+#include <cstddef>
+#include <cstring>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
-#include <unordered_map>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -28,33 +29,38 @@ namespace game {
 //   auto result = store.run([&] {
 //       store.execute("update datos_jugador set jornada = ?", 0);
 //   });
+//   GameStore::Query squad = store.query("select idjugador from jugadores where idequipo = ?", club);
+//   while (squad.next()) { use(squad.integer(0)); }
+//
+// Failures of the database are thrown; run() and attempt() turn them into values.
 class GameStore
 {
+    struct Prepared;
+
 public:
-    // The rows of one statement. The statement is reset when the query goes, so no read is
-    // left open to hold a table.
+    // The rows of one statement. While the query lives its statement is its own: another
+    // query of the same text, even inside the loop, gets a statement of its own. The
+    // statement is reset when the query goes, so no read is left open to hold a table. A
+    // query must not outlive close() or restore().
     class Query
     {
     public:
-        explicit Query(SQLite::Statement &statement) : m_statement(&statement) {}
-        Query(Query &&other) noexcept : m_statement(std::exchange(other.m_statement, nullptr)) {}
+        Query(Query &&other) noexcept : m_prepared(std::exchange(other.m_prepared, nullptr)) {}
         Query(const Query &) = delete;
         Query &operator=(const Query &) = delete;
-        ~Query()
-        {
-            if (m_statement)
-                m_statement->tryReset();
-        }
+        ~Query();
 
-        // Moves to the next row; false when there is none.
-        bool next() { return m_statement->executeStep(); }
-        int integer(int column) const { return m_statement->getColumn(column).getInt(); }
-        qint64 integer64(int column) const { return m_statement->getColumn(column).getInt64(); }
-        QString text(int column) const { return columnText(*m_statement, column); }
-        int columns() const { return m_statement->getColumnCount(); }
+        // Moves to the next row; false when there is none, and from then on.
+        bool next();
+        int integer(int column) const;
+        qint64 integer64(int column) const;
+        QString text(int column) const; // empty for NULL
+        int columns() const;
 
     private:
-        SQLite::Statement *m_statement;
+        friend class GameStore;
+        explicit Query(Prepared &prepared); // takes the statement until the query goes
+        Prepared *m_prepared;
     };
 
     GameStore(const QString &workingPath, const QString &pristinePath);
@@ -67,7 +73,7 @@ public:
     Result open();
     // Closes the connection; SQLite folds the write-ahead log back into the file.
     void close();
-    bool isOpen() const { return m_db != nullptr; }
+    bool isOpen() const { return m_connection != nullptr; }
 
     // Puts the pristine copy in place of the working file, atomically: the connection is
     // closed, the copy is written beside the working file under a temporary name, flushed and
@@ -77,10 +83,6 @@ public:
 
     const QString &workingPath() const { return m_workingPath; }
     const QString &pristinePath() const { return m_pristinePath; }
-
-    // The prepared statement for this text, reset and with its bindings cleared. Throws
-    // SQLite::Exception on failure, which run() and attempt() turn into a value.
-    SQLite::Statement &statement(const std::string &sql);
 
     // A statement as it was run, with its values: what the benchmarks replay on raw SQLite.
     struct TracedStatement
@@ -94,110 +96,110 @@ public:
 
     // Runs a select, binding args to its ?s in order; read the rows with next().
     template<typename... Args>
-    Query query(const std::string &sql, const Args &...args)
+    Query query(std::string_view sql, const Args &...args)
     {
-        SQLite::Statement &prepared = prepare(sql, args...);
-        return Query(prepared);
+        const std::array<Value, sizeof...(Args)> values{Value(args)...};
+        return Query(start(sql, values));
     }
 
     // Runs a statement that returns no rows, binding args to its ?s in order. Returns the
     // number of rows changed.
     template<typename... Args>
-    int execute(const std::string &sql, const Args &...args)
+    int execute(std::string_view sql, const Args &...args)
     {
-        return prepare(sql, args...).exec();
+        const std::array<Value, sizeof...(Args)> values{Value(args)...};
+        return changesOf(sql, values);
     }
 
-    // The first column of the first row, or fallback when there is no row or it is NULL.
+    // The first column of the first row, or 0 when there is no row or it is NULL.
     template<typename... Args>
-    qint64 integer(const std::string &sql, const Args &...args)
+    qint64 integer(std::string_view sql, const Args &...args)
     {
-        SQLite::Statement &query = prepare(sql, args...);
-        qint64 value = 0;
-        if (query.executeStep() && !query.getColumn(0).isNull())
-            value = query.getColumn(0).getInt64();
-        query.tryReset(); // a statement left stepping would hold its table
-        return value;
+        const std::array<Value, sizeof...(Args)> values{Value(args)...};
+        return integerOf(sql, values);
     }
 
+    // The first column of the first row as text, or empty when there is no row.
     template<typename... Args>
-    QString text(const std::string &sql, const Args &...args)
+    QString text(std::string_view sql, const Args &...args)
     {
-        SQLite::Statement &query = prepare(sql, args...);
-        QString value;
-        if (query.executeStep())
-            value = columnText(query, 0);
-        query.tryReset();
-        return value;
+        const std::array<Value, sizeof...(Args)> values{Value(args)...};
+        return textOf(sql, values);
     }
 
     // Runs body as one transaction. Any failure inside rolls back everything the body wrote
     // and comes back as a failure carrying a Spanish message. A run() inside another joins it.
     Result run(const std::function<void()> &body);
 
-    // For the steps that may fail without stopping what the player is doing: returns false
-    // and leaves the rest of the routine to go on.
+    // For the steps that may fail without stopping what the player is doing: a failure of the
+    // database returns false and leaves the rest of the routine to go on.
     bool attempt(const std::function<void()> &step);
 
     // How many statements have been executed since the store was made (for the benchmarks).
     quint64 statementsRun() const { return m_statementsRun; }
-
-    static QString columnText(SQLite::Statement &query, int column);
-
-    template<typename... Args>
-    static void bindAll(SQLite::Statement &query, const Args &...args)
-    {
-        int index = 0;
-        (bindValue(query, ++index, args), ...);
-    }
+    // How many statements have been compiled: one per text, and one more for each query of a
+    // text run while another query of it is still live.
+    quint64 statementsPrepared() const { return m_statementsPrepared; }
 
 private:
-    template<typename... Args>
-    SQLite::Statement &prepare(const std::string &sql, const Args &...args)
+    // One value for a ?, as the caller passed it: a number, or a view of text that lives until
+    // the statement has been bound. Making one never allocates; a QString is turned into UTF-8
+    // only when it is bound.
+    class Value
     {
-        SQLite::Statement &prepared = statement(sql);
-        bindAll(prepared, args...);
-        if (m_trace)
-            m_trace->push_back({sql, {traced(args)...}});
-        return prepared;
-    }
-    static std::variant<qint64, double, std::string> traced(int value) { return qint64(value); }
-    static std::variant<qint64, double, std::string> traced(long value) { return qint64(value); }
-    static std::variant<qint64, double, std::string> traced(long long value) { return qint64(value); }
-    static std::variant<qint64, double, std::string> traced(double value) { return value; }
-    static std::variant<qint64, double, std::string> traced(const QString &value) { return value.toStdString(); }
-    static std::variant<qint64, double, std::string> traced(const char *value) { return std::string(value); }
-    static std::variant<qint64, double, std::string> traced(const std::string &value) { return value; }
+    public:
+        enum class Kind { Null, Integer, Real, Utf8, Utf16 };
 
-    static void bindValue(SQLite::Statement &query, int index, int value) { query.bind(index, value); }
-    static void bindValue(SQLite::Statement &query, int index, long value)
-    {
-        query.bind(index, static_cast<int64_t>(value));
-    }
-    static void bindValue(SQLite::Statement &query, int index, long long value)
-    {
-        query.bind(index, static_cast<int64_t>(value));
-    }
-    static void bindValue(SQLite::Statement &query, int index, double value) { query.bind(index, value); }
-    static void bindValue(SQLite::Statement &query, int index, const QString &value)
-    {
-        query.bind(index, value.toStdString());
-    }
-    static void bindValue(SQLite::Statement &query, int index, const char *value) { query.bind(index, value); }
-    static void bindValue(SQLite::Statement &query, int index, const std::string &value)
-    {
-        query.bind(index, value);
-    }
+        Value() = default;
+        Value(int value) : m_kind(Kind::Integer), m_integer(value) {}
+        Value(long value) : m_kind(Kind::Integer), m_integer(value) {}
+        Value(long long value) : m_kind(Kind::Integer), m_integer(value) {}
+        Value(double value) : m_kind(Kind::Real), m_real(value) {}
+        Value(const QString &value) : m_kind(Kind::Utf16), m_qstring(&value) {}
+        Value(const std::string &value) : m_kind(Kind::Utf8), m_utf8{value.data(), value.size()} {}
+        Value(const char *value)
+            : m_kind(value ? Kind::Utf8 : Kind::Null), m_utf8{value, value ? std::strlen(value) : 0}
+        {
+        }
 
+        Kind kind() const { return m_kind; }
+        qint64 integer() const { return m_integer; }
+        double real() const { return m_real; }
+        std::string_view utf8() const { return {m_utf8.data, m_utf8.size}; }
+        const QString &utf16() const { return *m_qstring; }
+
+    private:
+        struct Utf8View
+        {
+            const char *data;
+            std::size_t size;
+        };
+        Kind m_kind = Kind::Null;
+        union {
+            qint64 m_integer = 0;
+            double m_real;
+            const QString *m_qstring;
+            Utf8View m_utf8;
+        };
+    };
+
+    // The statement for sql, free of any live query, bound to values and counted.
+    Prepared &start(std::string_view sql, std::span<const Value> values);
+    int changesOf(std::string_view sql, std::span<const Value> values);
+    qint64 integerOf(std::string_view sql, std::span<const Value> values);
+    QString textOf(std::string_view sql, std::span<const Value> values);
+    void trace(std::string_view sql, std::span<const Value> values);
+
+    struct Connection;
     void ensureOpen();
     Result openConnection();
 
     QString m_workingPath;
     QString m_pristinePath;
-    std::unique_ptr<SQLite::Database> m_db;
-    std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> m_statements;
+    std::unique_ptr<Connection> m_connection;
     int m_transactionDepth = 0;
     quint64 m_statementsRun = 0;
+    quint64 m_statementsPrepared = 0;
     std::vector<TracedStatement> *m_trace = nullptr;
 };
 

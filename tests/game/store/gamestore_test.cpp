@@ -2,6 +2,10 @@
 
 #include <QFile>
 
+#include <stdexcept>
+#include <string>
+#include <vector>
+
 using game::GameStore;
 using game::Result;
 
@@ -57,18 +61,63 @@ TEST_F(StoreTest, aRunInsideARunIsPartOfTheOuterTransaction)
     const Result result = m_store->run([&] {
         m_store->execute("update datos_jugador set jornada = 5");
         ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set nombre = 'x'"); }).ok());
-        throw SQLite::Exception("a later step fails");
+        throw std::runtime_error("a later step fails");
     });
     EXPECT_FALSE(result.ok());
     EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 0);
     EXPECT_EQ(m_store->text("select nombre from datos_jugador"), QString());
 }
 
-TEST_F(StoreTest, preparesEachStatementOnceAndReusesIt)
+namespace {
+
+const std::string kSquad = "select idjugador from jugadores where idequipo = ? order by idjugador";
+
+std::vector<int> squadOf(GameStore &store, int club)
 {
-    SQLite::Statement &first = m_store->statement("select jornada from datos_jugador");
-    SQLite::Statement &second = m_store->statement("select jornada from datos_jugador");
-    EXPECT_EQ(&first, &second);
+    std::vector<int> ids;
+    GameStore::Query rows = store.query(kSquad, club);
+    while (rows.next())
+        ids.push_back(rows.integer(0));
+    return ids;
+}
+
+} // namespace
+
+// Guards: an inner query of the same text as a live loop (the squad of another club while
+// going through one club's squad) resetting the outer loop, which then starts over on the
+// inner club's rows or never ends.
+TEST_F(StoreTest, nestedQueriesOfTheSameTextEachKeepTheirOwnRows)
+{
+    const std::vector<int> first = squadOf(*m_store, 1);
+    const std::vector<int> second = squadOf(*m_store, 2);
+    ASSERT_FALSE(first.empty());
+    ASSERT_FALSE(second.empty());
+    ASSERT_NE(first, second);
+
+    std::vector<int> outer;
+    GameStore::Query rows = m_store->query(kSquad, 1);
+    while (outer.size() <= first.size() && rows.next()) { // the bound stops a loop that restarts
+        outer.push_back(rows.integer(0));
+        EXPECT_EQ(squadOf(*m_store, 2), second);
+    }
+    EXPECT_EQ(outer, first);
+}
+
+// Guards: a one-value lookup of the same text inside a live loop resetting the loop.
+TEST_F(StoreTest, aSameTextLookupInsideALiveLoopLeavesTheLoopWhereItWas)
+{
+    const std::vector<int> first = squadOf(*m_store, 1);
+    const std::vector<int> second = squadOf(*m_store, 2);
+    ASSERT_FALSE(second.empty());
+
+    std::vector<int> outer;
+    GameStore::Query rows = m_store->query(kSquad, 1);
+    while (outer.size() <= first.size() && rows.next()) {
+        outer.push_back(rows.integer(0));
+        EXPECT_EQ(m_store->integer(kSquad, 2), second.front());
+        EXPECT_EQ(m_store->text(kSquad, 2), QString::number(second.front()));
+    }
+    EXPECT_EQ(outer, first);
 }
 
 // Guards: a restore that copies over an open file, or leaves a log that SQLite would replay
