@@ -397,9 +397,11 @@ def build(rng):
             "lavabos": level(1), "cafeteria": yes()})
     t["estadios"] = stadiums
 
-    # Ticket 12 euros, hoarding 500 euros, defence 6-0, attack 6-0.
+    # Ticket 10 euros, hoarding 1000 euros, defence 6-0, attack 6-0. The prices sit on the
+    # price buttons' grids (tickets 5 to 30 in fives, boards 900 to 1800 in hundreds), so the
+    # buttons' bounds are met exactly.
     t["entradas"] = [{"idPrecio": i, "precio_entrada": v}
-                     for i, v in [(1, 12), (2, 500), (3, 1), (4, 1)]]
+                     for i, v in [(1, 10), (2, 1000), (3, 1), (4, 1)]]
     t["televisiones"] = [{"idTelevision": i + 1, "NombreTV": n} for i, n in enumerate(BROADCASTERS)]
 
     coaches = []
@@ -637,7 +639,7 @@ def check(db):
                "or calefaccion not in (0,1) or focos not between 0 and 3 "
                "or enfermeria not between 0 and 3 or marcadores not between 1 and 3 "
                "or accesos not between 1 and 3 or lavabos not between 1 and 3") == 0, "estadios"
-    assert q("select * from entradas") == [(1, 12), (2, 500), (3, 1), (4, 1)]
+    assert q("select * from entradas") == [(1, 10), (2, 1000), (3, 1), (4, 1)]
     tv = q("select idTelevision, NombreTV from televisiones")
     assert [r[0] for r in tv] == list(range(1, 8)) and len({fold(r[1]) for r in tv}) == 7
     assert all(r[1] for r in tv)

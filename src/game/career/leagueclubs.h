@@ -6,6 +6,21 @@
 
 namespace game {
 
+// Who the clubs are, by id: 1 to 16 the Liga ASOBAL, 17 to 83 the clubs of other countries,
+// 84 the pool of youths and 85 the players released by their clubs. The two pools are clubs
+// in name only: nobody plays for them, and the market never lists their players.
+inline constexpr int kFirstLeagueClub = 1;
+inline constexpr int kLastLeagueClub = 16;
+inline constexpr int kFirstForeignClub = 17;
+inline constexpr int kLastForeignClub = 83;
+inline constexpr int kYouthPool = 84;
+inline constexpr int kReleasedPool = 85;
+
+inline constexpr bool isLeagueClub(int clubId)
+{
+    return clubId >= kFirstLeagueClub && clubId <= kLastLeagueClub;
+}
+
 // The sixteen clubs of the Liga ASOBAL that a manager can take over. The caption is how the
 // game writes the club's name on its crest and in the career row, in capitals; it equals the
 // club's name in the database when case is ignored.
@@ -15,7 +30,7 @@ struct LeagueClub
     const char16_t *caption;
 };
 
-inline constexpr std::array<LeagueClub, 16> kLeagueClubs{{
+inline constexpr std::array<LeagueClub, kLastLeagueClub> kLeagueClubs{{
     {1, u"F.C. BARCELONA"},
     {2, u"BM CIUDAD REAL"},
     {3, u"CAJA ESPAÑA ADEMAR DE LEÓN"},

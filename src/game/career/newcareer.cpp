@@ -1,5 +1,6 @@
 #include "newcareer.h"
 
+#include "career/leagueclubs.h"
 #include "dialogs.h"
 #include "store/gamestore.h"
 
@@ -15,7 +16,7 @@ bool NewCareer::start(const CareerChoice &choice)
         dialogs.tell(QObject::tr("introduce Nombre y Apellidos"), Dialogs::Icon::Exclamation);
         return false;
     }
-    if (choice.clubCaption.isEmpty() || choice.clubId < 1 || choice.clubId > 16) {
+    if (choice.clubCaption.isEmpty() || !isLeagueClub(choice.clubId)) {
         dialogs.tell(QObject::tr("Selecciona un Equipo de la Liga ASOBAL"), Dialogs::Icon::Exclamation);
         return false;
     }

@@ -1,5 +1,7 @@
 #include "preseason.h"
 
+#include "career/career.h"
+#include "career/leagueclubs.h"
 #include "dialogs.h"
 #include "random.h"
 #include "store/gamestore.h"
@@ -13,10 +15,6 @@ namespace {
 // The friendlies are played on the Sundays of August; the year is always 2004.
 const std::array<QDate, Preseason::kSlots> kSlotDates{QDate(2004, 8, 1), QDate(2004, 8, 7), QDate(2004, 8, 14),
                                                       QDate(2004, 8, 21), QDate(2004, 8, 28)};
-
-// The pools of youths and of released players are never put on the market.
-constexpr int kYouthPool = 84;
-constexpr int kReleasedPool = 85;
 
 } // namespace
 
@@ -56,12 +54,10 @@ void Preseason::begin()
     m_dealt = 0;
     m_slots = {};
     const Result result = store.run([&] {
-        GameStore::Query career = store.query("select nombre, apellidos, idequipo, NombreEquipo from datos_jugador");
-        if (career.next()) {
-            m_manager = career.text(0) + QLatin1Char(' ') + career.text(1);
-            m_club = career.integer(2);
-            m_clubName = career.text(3);
-        }
+        const CareerRow career = Career::read(store);
+        m_manager = career.manager();
+        m_club = career.club;
+        m_clubName = career.clubName;
         store.execute("update datos_jugador set jornada = 0");
     });
     if (!result)
@@ -96,7 +92,9 @@ int Preseason::choose(const QString &clubName)
             return;
         // The first four are played away; the fifth, the presentation, at home.
         const bool atHome = number == kSlots;
-        store.execute("insert into pretemporada values (?, ?, ?, ?)", number, atHome ? m_club : rival,
+        store.execute("insert into pretemporada (idpartido, equipo_local, equipo_visitante, fecha)"
+                      " values (?, ?, ?, ?)",
+                      number, atHome ? m_club : rival,
                       atHome ? rival : m_club, kSlotDates[std::size_t(slot)].toString(Qt::ISODate));
         GameStore::Query readBack = store.query(
             "select l.NombreEquipo, v.NombreEquipo, p.fecha from pretemporada p"
@@ -191,12 +189,14 @@ void Preseason::buildCalendar()
 
     int week = 0;
     for (const Match &match : weeks)
-        store.execute("insert into calendario values (?, ?, ?)", ++week, match.id, match.date);
+        store.execute("insert into calendario (semana, idpartido, fecha) values (?, ?, ?)", ++week, match.id,
+                      match.date);
 }
 
 void Preseason::drawMarket()
 {
-    // Players of other clubs, drawn at random, are put on the market. A draw that hits a pool
+    // Players of other clubs, drawn at random, are put on the market. The pools of youths and
+    // of released players are never listed. A draw that hits a pool
     // or the user's own club lists nobody, and a player drawn twice stays listed once. Listed
     // players stay listed from season to season, so the market grows.
     GameStore &store = m_context.store;

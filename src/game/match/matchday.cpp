@@ -1,5 +1,6 @@
 #include "matchday.h"
 
+#include "career/career.h"
 #include "match/tactics.h"
 #include "store/gamestore.h"
 
@@ -13,10 +14,10 @@ MatchEngine::Setup MatchDay::setup(const Fixture &fixture)
     setup.awayName = fixture.awayName;
     setup.system = storedDefence();
     m_context.store.attempt([&] {
-        const QString userClub = store.text("select NombreEquipo from datos_jugador");
-        setup.userClubName = userClub;
+        const CareerRow career = Career::read(store);
+        setup.userClubName = career.clubName;
         // The user is at home when the home club's name is his, capitals or not.
-        setup.userAtHome = fixture.homeName.toUpper() == userClub.toUpper();
+        setup.userAtHome = career.isUserClub(fixture.homeName);
 
         GameStore::Query places = store.query("select Nombre, Apellidos, Posicion, Media from miequipo order by rowid");
         for (std::size_t row = 0; row < setup.rows.size() && places.next(); ++row) {

@@ -32,39 +32,39 @@ int Tactics::attackPicture(int code)
 
 int Tactics::defenceCode()
 {
-    return storedCode(kDefenceRow);
+    return storedCode(Entrada::DefenceSystem);
 }
 
 int Tactics::attackCode()
 {
-    return storedCode(kAttackRow);
+    return storedCode(Entrada::AttackSystem);
 }
 
-int Tactics::storedCode(int row)
+int Tactics::storedCode(Entrada row)
 {
     // A store that cannot be read shows no system rather than ending the game.
     int code = 0;
     m_context.store.attempt(
-        [&] { code = int(m_context.store.integer("select precio_entrada from entradas where idPrecio = ?", row)); });
+        [&] { code = int(Entradas::value(m_context.store, row)); });
     return code;
 }
 
 void Tactics::setDefence(int code)
 {
     if (code >= 1 && code <= int(defences().size()))
-        store(kDefenceRow, code);
+        store(Entrada::DefenceSystem, code);
 }
 
 void Tactics::setAttack(int code)
 {
     if (code >= 1 && code <= int(attacks().size()))
-        store(kAttackRow, code);
+        store(Entrada::AttackSystem, code);
 }
 
-void Tactics::store(int row, int code)
+void Tactics::store(Entrada row, int code)
 {
     const Result result = m_context.store.run(
-        [&] { m_context.store.execute("update entradas set precio_entrada = ? where idPrecio = ?", code, row); });
+        [&] { Entradas::set(m_context.store, row, code); });
     if (!result)
         m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "context.h"
+#include "stadium/entradas.h"
 
 #include <QStringList>
 
@@ -11,9 +12,6 @@ namespace game {
 class Tactics
 {
 public:
-    static constexpr int kDefenceRow = 3;
-    static constexpr int kAttackRow = 4;
-
     explicit Tactics(Context context) : m_context(context) {}
 
     // The systems in the order of their lists; a system's code is its place, from 1.
@@ -29,8 +27,8 @@ public:
     void setAttack(int code);
 
 private:
-    void store(int row, int code);
-    int storedCode(int row);
+    void store(Entrada row, int code);
+    int storedCode(Entrada row);
 
     Context m_context;
 };

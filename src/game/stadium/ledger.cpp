@@ -16,8 +16,9 @@ void Ledger::openWeek(int week, int club)
 {
     const qint64 wages = weeklyWages(club);
     const qint64 budgetNow = budget(club);
-    m_store.execute("insert into caja values (?, 0, 0, 0, 0, 0, 0, 0, ?, 0, ?, 0, 0, ?, ?)", week, wages,
-                    kStaffWages, wages + kStaffWages, budgetNow - kStaffWages - wages);
+    // Every other column of the row opens at 0.
+    m_store.execute("insert into caja (semana, Gastos_Fichas, Gastos_Empleados, Gastos, Caja) values (?, ?, ?, ?, ?)",
+                    week, wages, kStaffWages, wages + kStaffWages, budgetNow - kStaffWages - wages);
     m_store.execute("update infoteams set presupuesto = presupuesto - ? - ? where idequipo = ?", kStaffWages,
                     wages, club);
 }
@@ -133,6 +134,19 @@ qint64 Ledger::firstBalance()
 qint64 Ledger::budget(int club)
 {
     return m_store.integer("select presupuesto from infoteams where idequipo = ?", club);
+}
+
+Ledger::Sheet Ledger::sheet(int week)
+{
+    Sheet sheet;
+    m_store.attempt([&] {
+        sheet.week = row(week).value_or(Row{});
+        sheet.before = row(week - 1).value_or(Row{});
+        sheet.season = seasonTotals();
+        // The season's cash is the balance of the earliest week on file.
+        sheet.seasonCash = firstBalance();
+    });
+    return sheet;
 }
 
 } // namespace game

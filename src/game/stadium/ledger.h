@@ -66,6 +66,18 @@ public:
     void postWorks(int week, qint64 amount);
 
     std::optional<Row> row(int week);
+
+    // What the ledger screen shows when it looks at a week: the week's row (zeros for a week
+    // not on file), the week before it, the season's sums and the season's cash. Zeros when
+    // the store cannot be read; it never throws, for a screen that only shows.
+    struct Sheet
+    {
+        Row week;
+        Row before;
+        Row season;
+        qint64 seasonCash = 0;
+    };
+    Sheet sheet(int week);
     // The season's sums of every column but the week and the balance.
     Row seasonTotals();
     // The balance of the earliest week on file, what the season view shows as its cash.

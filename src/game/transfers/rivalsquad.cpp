@@ -1,5 +1,6 @@
 #include "rivalsquad.h"
 
+#include "career/career.h"
 #include "career/leagueclubs.h"
 #include "dialogs.h"
 #include "random.h"
@@ -10,11 +11,6 @@
 namespace game {
 
 namespace {
-
-// The clubs that can lose a player to a rival: every club outside the league, the released
-// players of club 85 among them, but never the youth pool.
-constexpr int kLastLeagueClub = 16;
-constexpr int kYouthPool = 84;
 
 // The columns of a player that a starter's row in jugar repeats.
 struct Player
@@ -48,6 +44,8 @@ std::optional<Player> onePlayer(GameStore &store, const std::string &sql, const 
     return playerAt(row);
 }
 
+// The clubs that can lose a player to a rival: every club outside the league, the released
+// players among them, but never the youth pool.
 bool canJoinRival(const Player &player, const QString &position)
 {
     return player.posicion == position && player.club > kLastLeagueClub && player.club != kYouthPool;
@@ -115,7 +113,7 @@ void RivalSquad::prepare(const std::optional<Fixture> &fixture)
     GameStore &store = m_context.store;
     const int rival = fixture->rivalId;
     const Result written = store.run([&] {
-        const int userClub = static_cast<int>(store.integer("select idequipo from datos_jugador"));
+        const int userClub = Career::club(store);
         store.execute("delete from jugar where idequipo = ?", userClub);
 
         for (int plaza = 1; plaza <= static_cast<int>(kPositions.size()); ++plaza) {

@@ -1,5 +1,6 @@
 #include "youthacademy.h"
 
+#include "career/leagueclubs.h"
 #include "dialogs.h"
 #include "store/gamestore.h"
 
@@ -48,8 +49,10 @@ int YouthAcademy::add(const NewYouth &youth)
         id = static_cast<int>(store.integer("select max(idjugador) from jugadores")) + 1;
         // Every youth joins on the same terms: a rating of 95, a clause of 36150 €, a wage of
         // 1000 € a season, no injury, not on the market, a contract of five years.
-        store.execute("insert into jugadores values (?, ?, ?, ?, ?, ?, 95, ?, ?, 36150, 1000, 0, 0, 0, 0, 0, 5)",
-                      id, kPoolClub, youth.nombre, youth.apellidos, edad, youth.posicion, dorsal,
+        store.execute("insert into jugadores (idjugador, idequipo, Nombre, Apellidos, Edad, Posicion, Media, Dorsal,"
+                      " Nacionalidad, Clausula_Recision, Ficha, Lesiones, venta, libre1, libre2, libre3,"
+                      " \"Años_Contrato\") values (?, ?, ?, ?, ?, ?, 95, ?, ?, 36150, 1000, 0, 0, 0, 0, 0, 5)",
+                      id, kYouthPool, youth.nombre, youth.apellidos, edad, youth.posicion, dorsal,
                       youth.nacionalidad);
     });
     if (!written) {

@@ -26,7 +26,6 @@ struct NewYouth
 class YouthAcademy
 {
 public:
-    static constexpr int kPoolClub = 84;
     static constexpr int kMinAge = 16;
     static constexpr int kMaxAge = 19;
     static constexpr int kMinShirt = 1;

@@ -16,12 +16,11 @@ protected:
     // Distinct positions of the players of the clubs in [low, high].
     QSet<QString> positions(int low, int high)
     {
-        SQLite::Statement &query = m_store->statement(
-            "select distinct Posicion from jugadores where idequipo between ? and ?");
-        game::GameStore::bindAll(query, low, high);
+        game::GameStore::Query query = m_store->query(
+            "select distinct Posicion from jugadores where idequipo between ? and ?", low, high);
         QSet<QString> found;
-        while (query.executeStep())
-            found.insert(game::GameStore::columnText(query, 0));
+        while (query.next())
+            found.insert(query.text(0));
         return found;
     }
 };
@@ -43,10 +42,10 @@ TEST_F(Seed, hasEveryClubFrom1To85WithUniqueNames)
 {
     EXPECT_EQ(m_store->integer("select count(*) from equipos where idequipo between 1 and 85"), 85);
     EXPECT_EQ(count("equipos"), 85);
-    SQLite::Statement &names = m_store->statement("select NombreEquipo from equipos");
+    game::GameStore::Query names = m_store->query("select NombreEquipo from equipos");
     QSet<QString> folded;
-    while (names.executeStep())
-        folded.insert(game::GameStore::columnText(names, 0).toCaseFolded());
+    while (names.next())
+        folded.insert(names.text(0).toCaseFolded());
     EXPECT_EQ(folded.size(), 85);
 }
 
@@ -138,11 +137,17 @@ TEST_F(Seed, givesEveryStadiumRoomAndLevelsThatCanClimb)
     EXPECT_EQ(m_store->integer("select count(*) from estadios where marcadores < 1 or accesos < 1 or lavabos < 1"), 0);
 }
 
-TEST_F(Seed, storesPricesAndValidTacticsCodes)
+// Guards: pristine prices off the price buttons' grids (tickets 5 to 30 in fives, boards 900 to
+// 1800 in hundreds), whose bounds are then never met exactly, so prices climb or fall for ever.
+TEST_F(Seed, storesPricesOnTheButtonsGridsAndValidTacticsCodes)
 {
     EXPECT_EQ(count("entradas"), 4);
-    EXPECT_GT(m_store->integer("select precio_entrada from entradas where idPrecio = 1"), 0);
-    EXPECT_GT(m_store->integer("select precio_entrada from entradas where idPrecio = 2"), 0);
+    const qint64 ticket = m_store->integer("select precio_entrada from entradas where idPrecio = 1");
+    const qint64 boards = m_store->integer("select precio_entrada from entradas where idPrecio = 2");
+    EXPECT_EQ(ticket, 10);
+    EXPECT_EQ(boards, 1000);
+    EXPECT_TRUE(ticket >= 5 && ticket <= 30 && ticket % 5 == 0) << ticket;
+    EXPECT_TRUE(boards >= 900 && boards <= 1800 && boards % 100 == 0) << boards;
     EXPECT_EQ(m_store->integer("select precio_entrada between 1 and 5 from entradas where idPrecio = 3"), 1);
     EXPECT_EQ(m_store->integer("select precio_entrada between 1 and 2 from entradas where idPrecio = 4"), 1);
 }
@@ -168,13 +173,13 @@ TEST_F(Seed, holdsADoubleRoundRobinOf240Fixtures)
     std::map<std::pair<int, int>, int> meetings;
     std::map<int, int> matchesOf;
     int lastRound = 0;
-    SQLite::Statement &fixtures = m_store->statement(
+    game::GameStore::Query fixtures = m_store->query(
         "select jornada, pos_equipo_local, pos_equipo_visitante, fecha from liga_asobal order by idpartido");
     std::map<int, QString> dateOfRound;
-    while (fixtures.executeStep()) {
-        const int round = fixtures.getColumn(0).getInt();
-        const int home = fixtures.getColumn(1).getInt();
-        const int away = fixtures.getColumn(2).getInt();
+    while (fixtures.next()) {
+        const int round = fixtures.integer(0);
+        const int home = fixtures.integer(1);
+        const int away = fixtures.integer(2);
         EXPECT_GE(round, lastRound) << "fixtures out of round order";
         lastRound = round;
         EXPECT_TRUE(seenInRound[round].insert(home).second) << "round " << round << " position " << home;
@@ -182,7 +187,7 @@ TEST_F(Seed, holdsADoubleRoundRobinOf240Fixtures)
         ++meetings[{home, away}];
         ++matchesOf[home];
         ++matchesOf[away];
-        const QString date = game::GameStore::columnText(fixtures, 3);
+        const QString date = fixtures.text(3);
         EXPECT_TRUE(QDate::fromString(date, Qt::ISODate).isValid()) << date.toStdString();
         if (dateOfRound.count(round)) {
             EXPECT_EQ(dateOfRound[round], date);
@@ -215,12 +220,12 @@ TEST_F(Seed, hasFourteenFreePlacesInCallUpOrder)
                                QStringLiteral("SUPLENTE2"),       QStringLiteral("SUPLENTE3"),
                                QStringLiteral("SUPLENTE4"),       QStringLiteral("SUPLENTE5"),
                                QStringLiteral("SUPLENTE6"),       QStringLiteral("SUPLENTE7")};
-    SQLite::Statement &places = m_store->statement("select Pos_Partido, idjugador, Nombre from miequipo order by rowid");
+    game::GameStore::Query places = m_store->query("select Pos_Partido, idjugador, Nombre from miequipo order by rowid");
     QStringList found;
-    while (places.executeStep()) {
-        found << game::GameStore::columnText(places, 0);
-        EXPECT_EQ(places.getColumn(1).getInt(), 0);
-        EXPECT_EQ(game::GameStore::columnText(places, 2), found.last());
+    while (places.next()) {
+        found << places.text(0);
+        EXPECT_EQ(places.integer(1), 0);
+        EXPECT_EQ(places.text(2), found.last());
     }
     EXPECT_EQ(found, expected);
 }
