@@ -3,7 +3,7 @@
 
 #include "career/newcareer.h"
 #include "career/preseason.h"
-#include "career/weekopening.h"
+#include "career/week.h"
 #include "benchsupport.h"
 #include "random.h"
 #include "store/gamestore.h"
@@ -60,9 +60,10 @@ int main()
         planner.proceed();
         planning.push_back(micros(Clock::now() - started));
 
-        for (int week = 0; week < 35; ++week) {
+        game::Week week(context, game::WeekEvents{});
+        for (int number = 0; number < 35; ++number) {
             const auto begun = Clock::now();
-            game::WeekOpening(context).open();
+            week.open();
             openings.push_back(micros(Clock::now() - begun));
         }
         // Back to an empty season for the next round, outside the timing.

@@ -1,8 +1,10 @@
 #include "gate.h"
 
+#include "career/career.h"
 #include "dialogs.h"
 #include "money.h"
 #include "random.h"
+#include "stadium/entradas.h"
 #include "stadium/ledger.h"
 #include "store/gamestore.h"
 
@@ -17,9 +19,6 @@ namespace {
 constexpr int kLeastCrowd = 1500;
 // At least a third of the hoardings always sell.
 constexpr int kLeastHoardings = 10;
-
-constexpr int kTicketPrice = 1;
-constexpr int kHoardingPrice = 2;
 
 std::optional<int> firstInteger(GameStore &store, const std::string &sql, int key)
 {
@@ -79,21 +78,13 @@ int percentOf(qint64 part, qint64 whole)
 
 } // namespace
 
-Gate::Report Gate::settle(const Fixture &fixture)
+Gate::Report Gate::draw(const Fixture &fixture)
 {
     GameStore &store = m_context.store;
     Report report;
 
     // Each read that fails is passed over and leaves its figure at nothing.
-    int userClub = 0;
-    int week = 0;
-    store.attempt([&] {
-        GameStore::Query career = store.query("select idequipo, jornada from datos_jugador");
-        if (career.next()) {
-            userClub = career.integer(0);
-            week = career.integer(1);
-        }
-    });
+    const CareerRow career = Career::current(m_context);
     store.attempt([&] {
         GameStore::Query stadium = store.query("select Nombre, min_gradas from estadios where idequipo = ?",
                                                fixture.homeId);
@@ -103,10 +94,11 @@ Gate::Report Gate::settle(const Fixture &fixture)
             report.capacity = stadium.integer(1);
         }
     });
-    const qint64 ticketPrice = firstInteger(store, "select precio_entrada from entradas where idPrecio = ?",
-                                            kTicketPrice).value_or(0);
-    const qint64 hoardingPrice = firstInteger(store, "select precio_entrada from entradas where idPrecio = ?",
-                                              kHoardingPrice).value_or(0);
+    // The prices are always the user's own, also in the rival's stadium.
+    qint64 ticketPrice = 0;
+    qint64 hoardingPrice = 0;
+    store.attempt([&] { ticketPrice = Entradas::value(store, Entrada::TicketPrice); });
+    store.attempt([&] { hoardingPrice = Entradas::value(store, Entrada::BoardPrice); });
 
     report.fullHouse = isBigMatch(store, fixture.homeId, fixture.awayId);
     if (report.fullHouse) {
@@ -122,22 +114,36 @@ Gate::Report Gate::settle(const Fixture &fixture)
     }
     report.gateTakings = qint64(report.attendance) * ticketPrice;
     report.hoardingsTakings = qint64(report.hoardings) * hoardingPrice;
+    report.userAtHome = career.club != 0 && fixture.homeId == career.club;
+    return report;
+}
 
+bool Gate::post(const Report &report)
+{
     // Only the user's own home matches pay, and only into the week's row: the money is in the
     // ledger from the moment the match screen opens, whatever the result.
-    report.userAtHome = userClub != 0 && fixture.homeId == userClub;
     if (!report.userAtHome || !report.hasStadium)
-        return report;
-
+        return true;
+    GameStore &store = m_context.store;
     const Result posted = store.run([&] {
+        const CareerRow career = Career::read(store);
         Ledger ledger(store);
-        ledger.postGateAndBoards(week, report.gateTakings, report.hoardingsTakings);
+        ledger.postGateAndBoards(career.week, report.gateTakings, report.hoardingsTakings);
         // The cafeterias take two euros a head.
-        if (store.integer("select cafeteria from estadios where idequipo = ?", userClub) != 0)
-            ledger.postCafeterias(week, 2 * qint64(report.attendance));
+        if (store.integer("select cafeteria from estadios where idequipo = ?", career.club) != 0)
+            ledger.postCafeterias(career.week, 2 * qint64(report.attendance));
     });
-    if (!posted)
+    if (!posted) {
         m_context.dialogs.tell(posted.message(), Dialogs::Icon::Exclamation);
+        return false;
+    }
+    return true;
+}
+
+Gate::Report Gate::settle(const Fixture &fixture)
+{
+    const Report report = draw(fixture);
+    post(report);
     return report;
 }
 

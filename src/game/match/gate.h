@@ -46,7 +46,13 @@ public:
         QString hoardingsTakingsText() const; // "RECAUDACIÓN: 10500 €"
     };
 
-    // Settles the gate of the week's match and, at home, posts it to the week's ledger row.
+    // Draws the crowd of the week's match: who comes and what they pay. Writes nothing.
+    Report draw(const Fixture &fixture);
+    // At a home match of the user's club, posts the takings to the week's ledger row, in one
+    // transaction. False when that failed (the player has been told and nothing was written);
+    // true also when there was nothing to post.
+    bool post(const Report &report);
+    // Both at once, as a match that opens settles its gate.
     Report settle(const Fixture &fixture);
 
 private:

@@ -1,16 +1,9 @@
 #include "season.h"
 
-#include "career/fixture.h"
 #include "career/leagueclubs.h"
 #include "career/newcareer.h"
 #include "career/preseason.h"
-#include "career/weekevents.h"
-#include "career/weekopening.h"
 #include "match/callup.h"
-#include "match/engine.h"
-#include "match/gate.h"
-#include "match/matchday.h"
-#include "match/results.h"
 #include "random.h"
 #include "store/gamestore.h"
 
@@ -56,18 +49,15 @@ bool AutoSeason::playWeek()
 
 bool AutoSeason::playWeekBody()
 {
-    const std::optional<WeekOpening::Opened> opened = WeekOpening(m_context).open();
-    if (!opened) {
+    if (!m_week.open()) {
         m_failure = QStringLiteral("the week could not open");
         return false;
     }
-    if (opened->seasonOver)
+    if (m_week.seasonOver())
         return false;
     ++m_totals.weeks;
-    const int club = WeekOpening::userClub(m_context.store);
-    const std::optional<Fixture> fixture = fixtureOfWeek(m_context.store, opened->week, club);
-    WeekEvents::standard(m_context).run(fixture);
-    if (!fixture)
+    m_week.runEvents();
+    if (!m_week.fixture())
         return true;
 
     CallUp callUp(m_context);
@@ -76,15 +66,18 @@ bool AutoSeason::playWeekBody()
         m_failure = QStringLiteral("fewer than fourteen players");
         return false;
     }
-    MatchDay matchDay(m_context);
-    MatchEngine engine(m_context.random, matchDay.setup(*fixture));
-    Gate(m_context).settle(*fixture);
+    const std::optional<Week::Kickoff> kickoff = m_week.kickOff();
+    if (!kickoff) {
+        m_failure = QStringLiteral("the match could not start");
+        return false;
+    }
+    MatchEngine engine(m_context.random, kickoff->setup);
     for (int half = 0; half < 2; ++half) {
         engine.start();
         while (engine.running())
             engine.tick();
     }
-    if (!Results(m_context).record(*fixture, engine.score(0), engine.score(1))) {
+    if (!m_week.recordResult(engine.score(0), engine.score(1))) {
         m_failure = QStringLiteral("the result could not be recorded");
         return false;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "career/week.h"
 #include "context.h"
 
 #include <QString>
@@ -32,15 +33,15 @@ public:
         int goalsAgainst = 0;
     };
 
-    AutoSeason(Context context, Options options) : m_context(context), m_options(options) {}
+    AutoSeason(Context context, Options options) : m_context(context), m_options(options), m_week(context) {}
 
     // Starts the career and plans the pre-season: the first friendlies against clubs drawn
     // from the other countries, the rest declined. False when that failed.
     bool begin();
 
-    // Opens the next week and plays its match: the best fourteen called up, both halves
-    // played through the engine, the result recorded. False once the season is over or a
-    // routine failed.
+    // Lives the next week as the window does, through the same week: it opens, its events
+    // run, the best fourteen are called up, both halves are played through the engine and
+    // the result is recorded. False once the season is over or a routine failed.
     bool playWeek();
 
     const Totals &totals() const { return m_totals; }
@@ -51,6 +52,7 @@ private:
 
     Context m_context;
     Options m_options;
+    Week m_week;
     Totals m_totals;
     QString m_failure;
 };

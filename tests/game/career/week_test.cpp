@@ -1,11 +1,12 @@
 #include "career/fixture.h"
+#include "career/week.h"
 #include "career/weekevents.h"
-#include "career/weekopening.h"
 #include "careerfixture.h"
+#include "stadium/ledger.h"
 
-using game::WeekOpening;
+using game::Week;
 
-class WeekOpeningTest : public CareerTest
+class WeekTest : public CareerTest
 {
 protected:
     void SetUp() override
@@ -30,7 +31,7 @@ protected:
 };
 
 // Guards: a first week that charges the wrong wages or opens the ledger at the wrong balance.
-TEST_F(WeekOpeningTest, theFirstWeekPaysWagesAndStaffAndOpensTheLedgerRow)
+TEST_F(WeekTest, theFirstWeekPaysWagesAndStaffAndOpensTheLedgerRow)
 {
     planSeason(3);
     const qint64 before = budget();
@@ -38,10 +39,10 @@ TEST_F(WeekOpeningTest, theFirstWeekPaysWagesAndStaffAndOpensTheLedgerRow)
     ASSERT_EQ(count("calendario"), 33);
     ASSERT_TRUE(m_store->run([&] { m_store->execute("insert into jugar values (2, 40, 'A', 'B', 70, 'Portero', 1)"); }).ok());
 
-    const auto opened = WeekOpening(*m_context).open();
-    ASSERT_TRUE(opened.has_value());
-    EXPECT_EQ(opened->week, 1);
-    EXPECT_FALSE(opened->seasonOver);
+    Week week(*m_context);
+    ASSERT_TRUE(week.open());
+    EXPECT_EQ(week.number(), 1);
+    EXPECT_FALSE(week.seasonOver());
     EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 1);
     EXPECT_EQ(dump("caja"), QStringLiteral("1|0|0|0|0|0|0|0|%1|0|1000|0|0|%2|%3|\n")
                                 .arg(wages)
@@ -50,7 +51,8 @@ TEST_F(WeekOpeningTest, theFirstWeekPaysWagesAndStaffAndOpensTheLedgerRow)
     EXPECT_EQ(budget(), before - 1000 - wages);
     EXPECT_EQ(count("jugar"), 0);
 
-    ASSERT_TRUE(WeekOpening(*m_context).open().has_value());
+    ASSERT_TRUE(week.open());
+    EXPECT_EQ(week.number(), 2);
     EXPECT_EQ(count("caja"), 2);
     EXPECT_EQ(budget(), before - 2 * (1000 + wages));
 }
@@ -61,7 +63,7 @@ struct WageCase {
     int weeklyWage;
 };
 
-class WeeklyWage : public WeekOpeningTest, public ::testing::WithParamInterface<WageCase>
+class WeeklyWage : public WeekTest, public ::testing::WithParamInterface<WageCase>
 {};
 
 // Guards: wages rounded up or truncated where the game rounds a half to the even number.
@@ -69,7 +71,7 @@ TEST_P(WeeklyWage, isTheSeasonWageOverTheCalendarRoundedHalfToEven)
 {
     planSeason(0); // thirty weeks
     setOnlyWage(GetParam().seasonWage);
-    ASSERT_TRUE(WeekOpening(*m_context).open().has_value());
+    ASSERT_TRUE(Week(*m_context).open());
     EXPECT_EQ(m_store->integer("select Gastos_Fichas from caja where semana = 1"), GetParam().weeklyWage);
 }
 
@@ -78,44 +80,48 @@ INSTANTIATE_TEST_SUITE_P(Rounding, WeeklyWage,
                                            WageCase{30000, 1000}, WageCase{30014, 1000}, WageCase{30016, 1001}),
                          [](const auto &info) { return "wage" + std::to_string(info.param.seasonWage); });
 
-TEST_F(WeekOpeningTest, theBudgetMayGoBelowZeroAndTheWeekStillOpens)
+TEST_F(WeekTest, theBudgetMayGoBelowZeroAndTheWeekStillOpens)
 {
     planSeason(0);
     ASSERT_TRUE(m_store->run([&] { m_store->execute("update infoteams set presupuesto = 10 where idequipo = ?", kClub); }).ok());
-    ASSERT_TRUE(WeekOpening(*m_context).open().has_value());
+    ASSERT_TRUE(Week(*m_context).open());
     EXPECT_LT(budget(), 0);
     EXPECT_LT(m_store->integer("select Caja from caja where semana = 1"), 0);
 }
 
 // Guards: wages charged again, or a ledger row written, for the week after the season's last.
-TEST_F(WeekOpeningTest, theWeekAfterTheLastOneEndsTheSeasonWithoutPayingAgain)
+TEST_F(WeekTest, theWeekAfterTheLastOneEndsTheSeasonWithoutPayingAgain)
 {
     planSeason(2);
     ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set jornada = 32"); }).ok());
     const qint64 before = budget();
-    const auto opened = WeekOpening(*m_context).open();
-    ASSERT_TRUE(opened.has_value());
-    EXPECT_EQ(opened->week, 33);
-    EXPECT_TRUE(opened->seasonOver);
+    Week week(*m_context);
+    ASSERT_TRUE(week.open());
+    EXPECT_EQ(week.number(), 33);
+    EXPECT_TRUE(week.seasonOver());
+    EXPECT_FALSE(week.fixture().has_value());
+    EXPECT_FALSE(week.kickOff().has_value());
     EXPECT_EQ(count("caja"), 0);
     EXPECT_EQ(budget(), before);
 }
 
 // Guards: a week left half open when the store fails in the middle.
-TEST_F(WeekOpeningTest, aFailedOpeningLeavesTheWeekAsItWas)
+TEST_F(WeekTest, aFailedOpeningLeavesTheWeekAsItWas)
 {
     planSeason(0);
     const game::Result dropped = m_store->run([&] { m_store->execute("drop table jugar"); });
     ASSERT_TRUE(dropped.ok()) << dropped.message().toStdString();
     const qint64 before = budget();
-    EXPECT_FALSE(WeekOpening(*m_context).open().has_value());
+    Week week(*m_context);
+    EXPECT_FALSE(week.open());
+    EXPECT_FALSE(week.isOpen());
     EXPECT_EQ(m_dialogs.messages().size(), 1u);
     EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 0);
     EXPECT_EQ(count("caja"), 0);
     EXPECT_EQ(budget(), before);
 }
 
-TEST_F(WeekOpeningTest, aFriendlyWeekNamesBothClubsAndTheRival)
+TEST_F(WeekTest, aFriendlyWeekNamesBothClubsAndTheRival)
 {
     planSeason(5);
     const int abroad = int(m_store->integer("select equipo_local from pretemporada where idpartido = 1"));
@@ -134,7 +140,7 @@ TEST_F(WeekOpeningTest, aFriendlyWeekNamesBothClubsAndTheRival)
 }
 
 // Guards: template positions turned into the wrong clubs, or a lookup that writes.
-TEST_F(WeekOpeningTest, everyLeagueWeekShowsTheClubsBehindItsTemplatePositions)
+TEST_F(WeekTest, everyLeagueWeekShowsTheClubsBehindItsTemplatePositions)
 {
     planSeason(1);
     const qint64 changesBefore = m_store->integer("select total_changes()");
@@ -152,6 +158,108 @@ TEST_F(WeekOpeningTest, everyLeagueWeekShowsTheClubsBehindItsTemplatePositions)
     }
     EXPECT_FALSE(game::fixtureOfWeek(*m_store, 32, kClub).has_value());
     EXPECT_EQ(m_store->integer("select total_changes()"), changesBefore);
+}
+
+// Opens weeks until the user's club plays a league match at home, and leaves that week open.
+void openUntilHomeLeagueMatch(Week &week, int club)
+{
+    for (int tries = 0; tries < 31; ++tries) {
+        ASSERT_TRUE(week.open());
+        if (week.fixture() && week.fixture()->isLeague() && week.fixture()->homeId == club)
+            return;
+    }
+    FAIL() << "no home league match";
+}
+
+// Guards: the week's events running again when the panel is shown again or the match opens,
+// so the rival names his seven twice or a club bids twice in a week.
+TEST_F(WeekTest, runsItsEventsOnceEvenWhenTheMatchOpensAfterThem)
+{
+    planSeason(0);
+    int runs = 0;
+    game::WeekEvents events;
+    events.set(game::WeekEvents::Step::RivalSquad, [&](const auto &) { ++runs; });
+    Week week(*m_context, events);
+
+    ASSERT_TRUE(week.open());
+    EXPECT_FALSE(week.eventsRun());
+    week.runEvents();
+    week.runEvents();
+    ASSERT_TRUE(week.kickOff().has_value());
+    EXPECT_EQ(runs, 1);
+
+    ASSERT_TRUE(week.open()); // a new week has its own events
+    EXPECT_FALSE(week.eventsRun());
+    ASSERT_TRUE(week.kickOff().has_value()); // the match does not open before the events
+    EXPECT_TRUE(week.eventsRun());
+    EXPECT_EQ(runs, 2);
+}
+
+// Guards: a home match opened again after its result could not be written paying its gate
+// and cafeterias a second time.
+TEST_F(WeekTest, aHomeMatchReplayedAfterAFailedResultPaysItsGateOnce)
+{
+    planSeason(0);
+    Week week(*m_context);
+    openUntilHomeLeagueMatch(week, kClub);
+    ASSERT_FALSE(HasFatalFailure());
+    const int number = week.number();
+
+    const auto first = week.kickOff();
+    ASSERT_TRUE(first.has_value());
+    ASSERT_TRUE(first->gate.userAtHome);
+    const auto paid = game::Ledger(*m_store).row(number);
+    ASSERT_TRUE(paid.has_value());
+    ASSERT_GT(paid->taquilla, 0);
+    const QString ledgerAfterGate = dump("caja");
+
+    // The disk refuses the result: nothing is written and the player is told.
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("create trigger refuse before update on liga_asobal"
+                         " begin select raise(abort, 'disco lleno'); end");
+    }).ok());
+    const auto messagesBefore = m_dialogs.messages().size();
+    EXPECT_FALSE(week.recordResult(30, 25));
+    EXPECT_EQ(m_dialogs.messages().size(), messagesBefore + 1);
+    EXPECT_FALSE(week.played());
+    EXPECT_EQ(m_store->integer("select goles_equipo_local from liga_asobal where idpartido = ?", week.fixture()->idpartido), 0);
+
+    // The match is played again: the same crowd, and nothing more in the ledger.
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("drop trigger refuse"); }).ok());
+    const auto replay = week.kickOff();
+    ASSERT_TRUE(replay.has_value());
+    EXPECT_EQ(replay->gate.attendance, first->gate.attendance);
+    EXPECT_EQ(replay->gate.gateTakings, first->gate.gateTakings);
+    EXPECT_EQ(dump("caja"), ledgerAfterGate);
+
+    EXPECT_TRUE(week.recordResult(30, 25));
+    EXPECT_TRUE(week.played());
+    EXPECT_EQ(m_store->integer("select goles_equipo_local from liga_asobal where idpartido = ?", week.fixture()->idpartido), 30);
+    EXPECT_FALSE(week.kickOff().has_value()); // a played match does not open again
+    EXPECT_FALSE(week.recordResult(1, 0));
+    EXPECT_EQ(dump("caja"), ledgerAfterGate);
+}
+
+// Guards: a gate whose posting failed being lost for good, or posted at the next kick-off on
+// top of a posting that had gone through.
+TEST_F(WeekTest, aGateThatCouldNotBePostedIsPostedAtTheNextKickOff)
+{
+    planSeason(0);
+    Week week(*m_context);
+    openUntilHomeLeagueMatch(week, kClub);
+    ASSERT_FALSE(HasFatalFailure());
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("create trigger refuse before update on caja begin select raise(abort, 'disco lleno'); end");
+    }).ok());
+    const auto first = week.kickOff();
+    ASSERT_TRUE(first.has_value());
+    EXPECT_EQ(game::Ledger(*m_store).row(week.number())->taquilla, 0);
+
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("drop trigger refuse"); }).ok());
+    ASSERT_TRUE(week.kickOff().has_value());
+    EXPECT_EQ(game::Ledger(*m_store).row(week.number())->taquilla, first->gate.gateTakings);
+    ASSERT_TRUE(week.kickOff().has_value());
+    EXPECT_EQ(game::Ledger(*m_store).row(week.number())->taquilla, first->gate.gateTakings);
 }
 
 TEST(WeekEventsOrder, runsTheFiveStepsOnceInTheirFixedOrder)

@@ -1,5 +1,5 @@
 #include "career/fixture.h"
-#include "career/weekopening.h"
+#include "career/week.h"
 #include "careerfixture.h"
 #include "match/gate.h"
 #include "stadium/ledger.h"
@@ -24,7 +24,7 @@ protected:
         CareerTest::SetUp();
         startCareer();
         planSeason(0);
-        ASSERT_TRUE(game::WeekOpening(*m_context).open().has_value());
+        ASSERT_TRUE(game::Week(*m_context).open());
         setClub(kClub, 1, 5);
         setClub(kRival, 2, 7);
         setStadium(kClub, 3000, true);

@@ -1,4 +1,4 @@
-#include "career/weekopening.h"
+#include "career/week.h"
 #include "careerfixture.h"
 #include "money.h"
 #include "stadium/ledger.h"
@@ -13,7 +13,7 @@ protected:
         CareerTest::SetUp();
         startCareer();
         planSeason(0);
-        ASSERT_TRUE(game::WeekOpening(*m_context).open().has_value());
+        ASSERT_TRUE(game::Week(*m_context).open());
         m_opening = *Ledger(*m_store).row(1);
     }
 
@@ -80,7 +80,7 @@ TEST_F(LedgerTest, eachWeekOpensFromTheBudgetNotFromLastWeeksBalance)
 {
     Ledger ledger(*m_store);
     ASSERT_TRUE(m_store->run([&] { ledger.postGateAndBoards(1, 25000, 10500); }).ok());
-    ASSERT_TRUE(game::WeekOpening(*m_context).open().has_value());
+    ASSERT_TRUE(game::Week(*m_context).open());
     const Ledger::Row second = *ledger.row(2);
     EXPECT_EQ(second.caja, m_opening.caja - m_opening.gastos);
     EXPECT_EQ(second.ingresos, 0);

@@ -1,0 +1,100 @@
+#include "week.h"
+
+#include "dialogs.h"
+#include "match/matchday.h"
+#include "match/results.h"
+#include "stadium/ledger.h"
+#include "store/gamestore.h"
+
+namespace game {
+
+Week::Week(Context context) : Week(context, WeekEvents::standard(context))
+{
+}
+
+Week::Week(Context context, WeekEvents events) : m_context(context), m_events(std::move(events))
+{
+}
+
+bool Week::open()
+{
+    GameStore &store = m_context.store;
+    CareerRow career;
+    bool seasonOver = false;
+    const Result result = store.run([&] {
+        store.execute("update datos_jugador set jornada = jornada + 1");
+        career = Career::read(store);
+        // A season with k friendlies ends when week k + 31 opens, a week the calendar does not
+        // have. An empty calendar has not ended.
+        const qint64 lastWeek = store.integer("select max(semana) from calendario");
+        if (lastWeek > 0 && career.week == lastWeek + 1) {
+            seasonOver = true;
+            return;
+        }
+        Ledger(store).openWeek(career.week, career.club);
+        store.execute("delete from jugar");
+    });
+    if (!result) {
+        m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
+        return false;
+    }
+    close();
+    m_career = career;
+    m_number = career.week;
+    m_seasonOver = seasonOver;
+    if (!seasonOver)
+        store.attempt([&] { m_fixture = fixtureOfWeek(store, m_number, m_career.club); });
+    return true;
+}
+
+void Week::close()
+{
+    m_career = {};
+    m_number = 0;
+    m_seasonOver = false;
+    m_fixture.reset();
+    m_eventsRun = false;
+    m_gate.reset();
+    m_gatePosted = false;
+    m_played = false;
+}
+
+void Week::runEvents()
+{
+    if (!isOpen() || m_seasonOver || m_eventsRun)
+        return;
+    // Marked first: a message box of an event runs the event loop, and the week's timer must
+    // not start the events again behind it.
+    m_eventsRun = true;
+    m_events.run(m_fixture);
+}
+
+std::optional<Week::Kickoff> Week::kickOff()
+{
+    if (!m_fixture || m_played)
+        return std::nullopt;
+    runEvents();
+    Kickoff kickoff;
+    kickoff.setup = MatchDay(m_context).setup(*m_fixture);
+    Gate gate(m_context);
+    if (!m_gate)
+        m_gate = gate.draw(*m_fixture);
+    // A posting that failed is tried again at the next kick-off; one that went through never
+    // is.
+    if (!m_gatePosted)
+        m_gatePosted = gate.post(*m_gate);
+    kickoff.gate = *m_gate;
+    return kickoff;
+}
+
+bool Week::recordResult(int homeGoals, int awayGoals)
+{
+    if (!m_fixture || m_played)
+        return false;
+    if (!Results(m_context).record(*m_fixture, homeGoals, awayGoals))
+        return false;
+    m_played = true;
+    return true;
+}
+
+} // namespace game

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "career/career.h"
+#include "career/fixture.h"
+#include "career/weekevents.h"
+#include "context.h"
+#include "match/engine.h"
+#include "match/gate.h"
+
+#include <optional>
+
+namespace game {
+
+// One week of the career, from its opening to the result of its match. The week is the
+// game's only clock: it opens (the number moves on, the end of the season is tested, wages
+// and staff are paid, the ledger row opens, last week's rival line-up goes), its events run
+// once, its match kicks off with the crowd settled once, and its result is recorded. Only
+// then can the next week open. The panel, the match screen and the headless season all go
+// through this one object, so the window and the simulator live the same week.
+//
+// Every step that writes is one transaction: when it fails it leaves nothing behind, the
+// player is told in Spanish, and the week stays where it was.
+//
+//   Week week(context);
+//   if (week.open() && !week.seasonOver()) {
+//       week.runEvents();                          // the panel's first tick
+//       if (auto kickoff = week.kickOff()) {       // the match screen opens
+//           MatchEngine engine(random, kickoff->setup);
+//           ... both halves ...
+//           week.recordResult(engine.score(0), engine.score(1));
+//       }
+//   }
+class Week
+{
+public:
+    // What a match needs as it opens: both sides and the crowd.
+    struct Kickoff
+    {
+        MatchEngine::Setup setup;
+        Gate::Report gate;
+    };
+
+    explicit Week(Context context);
+    Week(Context context, WeekEvents events);
+
+    // Opens the next week of the career. When the week is the one after the calendar's last,
+    // the season is over: nothing is charged and there is no match. False when the store
+    // failed: nothing was written, the player has been told, and the week is as it was.
+    bool open();
+    // The career is left: no week is open any more.
+    void close();
+
+    int number() const { return m_number; }
+    bool isOpen() const { return m_number > 0; }
+    bool seasonOver() const { return m_seasonOver; }
+    // The career row as the week found it at its opening.
+    const CareerRow &career() const { return m_career; }
+    // The week's match, found at its opening; nothing in a week without one.
+    const std::optional<Fixture> &fixture() const { return m_fixture; }
+
+    // The week's events: the rival names his seven, offers are answered, works end, clubs
+    // bid, television buys. Once a week; later calls do nothing.
+    void runEvents();
+    bool eventsRun() const { return m_eventsRun; }
+
+    // The week's match opens: its events first if they have not run (the rival must have
+    // named his seven), then both sides and the crowd. The gate is settled once a week: a
+    // match opened again (after a result that could not be written) shows the same crowd and
+    // pays nothing more. Nothing when the week has no match or it has been played.
+    std::optional<Kickoff> kickOff();
+
+    // Records the week's result and plays the rest of its round. False when the store failed
+    // (the player has been told, nothing was written and the match can be played again).
+    bool recordResult(int homeGoals, int awayGoals);
+    bool played() const { return m_played; }
+
+private:
+    Context m_context;
+    WeekEvents m_events;
+    CareerRow m_career;
+    int m_number = 0;
+    bool m_seasonOver = false;
+    std::optional<Fixture> m_fixture;
+    bool m_eventsRun = false;
+    std::optional<Gate::Report> m_gate;
+    bool m_gatePosted = false;
+    bool m_played = false;
+};
+
+} // namespace game
