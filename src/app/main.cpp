@@ -3,8 +3,7 @@
 #include "common/messageboxdialogs.h"
 #include "common/theme.h"
 #include "navigator.h"
-#include "random.h"
-#include "store/gamestore.h"
+#include "session.h"
 
 #include <QApplication>
 #include <QDir>
@@ -40,21 +39,18 @@ int main(int argc, char *argv[])
     // The career lives in the player's data folder and is used as found.
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     QDir().mkpath(dataFolder);
-    game::GameStore store(dataFolder + QStringLiteral("/balonmano.mdb"), pristineDatabase());
-    if (game::Result opened = store.open(); !opened) {
+    ui::MessageBoxDialogs dialogs;
+    game::Session session(dataFolder + QStringLiteral("/balonmano.mdb"), pristineDatabase(), dialogs);
+    if (game::Result opened = session.open(); !opened) {
         QMessageBox::critical(nullptr, QStringLiteral("Zarpazo"), opened.message());
         return 1;
     }
-
-    game::SystemRandom random;
-    ui::MessageBoxDialogs dialogs;
-    game::Context context{store, random, dialogs};
 
     QMainWindow window;
     window.setObjectName(QStringLiteral("MainWindow"));
     window.resize(1280, 720);
     window.setMinimumSize(1024, 640);
-    app::Navigator navigator(context, window);
+    app::Navigator navigator(session.context(), window);
     QObject::connect(&navigator, &app::Navigator::finished, &app, &QApplication::quit);
     navigator.showSplash();
     window.show();

@@ -1,38 +1,54 @@
 #pragma once
 
-#include "career/weekevents.h"
+#include "career/week.h"
 #include "context.h"
-#include "result.h"
 
+#include <QHash>
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
 #include <QUrl>
+#include <QWidget>
 
 #include <functional>
 
 class QMainWindow;
 class QStackedWidget;
-class QWidget;
-
-namespace ui {
-class AddYouthScreen;
-class InfoPage;
-class MainMenu;
-class NewCareerScreen;
-class PreseasonScreen;
-class SplashScreen;
-class WeekPanel;
-class LedgerScreen;
-class CalendarScreen;
-class CallUpScreen;
-class TacticsScreen;
-class MatchScreen;
-}
 
 namespace app {
 
-// Opens and closes the screens of the game. Each screen exists once at most; the plain
-// screens take turns in the main window and the modal ones open above it.
+class Navigator;
+
+// How one screen of the game is made and shown. Every screen is registered once, under its
+// name, and exists at most once.
+struct ScreenKind
+{
+    enum class Mode {
+        Page,    // takes the main window; closing it brings back the page it covered
+        Dialog,  // opens modal above the window
+        Window,  // a window of its own beside the game
+    };
+
+    Mode mode = Mode::Page;
+    // Closing the screen only hides it, and it keeps what the player did on it (the call-up's
+    // picks) until the week ends. Any other screen goes when it closes, and opening one that
+    // is still there makes it afresh: a report is always read anew.
+    bool hides = false;
+    // The screen stays when a new week opens (the panel, the menu, the match on screen).
+    bool outlivesTheWeek = false;
+    // Makes the screen and connects what it asks of the navigator. A null pointer means it
+    // cannot open now, such as a match in a week that has none.
+    std::function<QWidget *(Navigator &)> make;
+    // Runs at every opening, the first included, before the screen is shown.
+    std::function<void(Navigator &, QWidget *)> opened;
+};
+
+// Opens and closes the screens of the game and leads the career from week to week. The
+// screens come from a table (see screens.cpp): adding one is one entry there, and the
+// navigator does not change.
+//
+//   navigator.open(u"Calendario"_s);     // made and shown over the panel
+//   navigator.close(u"Calendario"_s);    // gone; the panel is back
 class Navigator : public QObject
 {
     Q_OBJECT
@@ -41,64 +57,66 @@ public:
     Navigator(game::Context context, QMainWindow &window);
     ~Navigator() override;
 
+    void add(const QString &name, ScreenKind kind);
+    bool has(const QString &name) const { return m_kinds.contains(name); }
+
+    // Opens a registered screen by name and shows it as its kind says; null when there is no
+    // such screen or it cannot open now.
+    QWidget *open(const QString &name);
+    // Hides or ends a screen, as its kind says; a page gives way to the one it covered.
+    void close(const QString &name);
+    // The screen of that name while it exists, else null.
+    QWidget *screen(const QString &name) const { return m_loaded.value(name); }
+    template<typename Screen>
+    Screen *screen(const QString &name) const
+    {
+        return qobject_cast<Screen *>(screen(name));
+    }
+    // The page the main window shows.
+    QWidget *current() const;
+
+    game::Context context() const { return m_context; }
+    game::Week &week() { return m_week; }
+    QMainWindow &window() const { return m_window; }
+
     // How a web page is opened; the system's browser unless a test says otherwise.
     void setUrlOpener(std::function<void(const QUrl &)> opener) { m_openUrl = std::move(opener); }
+    void openUrl(const QUrl &url) const { m_openUrl(url); }
 
+    // The way of a career: the title, the menu, the first week of a season, each next week,
+    // the end of the week's match, leaving the career, leaving the game.
     void showSplash();
     void showMenu();
-    void openNewCareer();
-    void openAddYouth();
-    void openInfo(int kind);
-    void openPreseason();
-    void openWeekPanel();
-    void openLedger();
-    void openCalendar();
-    void openCallUp();
-    void openTactics();
-    void openMatch();
-    void leaveMatch();
+    void beginSeason();
+    void nextWeek();
+    void showPanel();
+    void playMatch();
+    void matchOver(int homeGoals, int awayGoals);
     void leaveCareer();
     void quitGame();
-
-    // The week's events; the subsystems put their routines in it.
-    game::WeekEvents &weekEvents() { return m_events; }
-    ui::WeekPanel *weekPanel() const;
-    ui::MatchScreen *matchScreen() const;
-
-    QWidget *current() const;
 
 signals:
     // The player has left the game; the working file has been restored.
     void finished();
 
 private:
-    void show(QWidget *screen);
-    template<typename Screen>
-    void unload(QPointer<Screen> &screen);
-    // Closes the screens a week leaves open, before the next one opens.
-    void unloadWeekScreens();
-    void backToPanel();
+    void unload(const QString &name);
+    // Closes what a week leaves open before the next one opens.
+    void closeWeekScreens();
+    void showTopPage();
 
     game::Context m_context;
     QMainWindow &m_window;
     QStackedWidget *m_stack;
     std::function<void(const QUrl &)> m_openUrl;
-
-    QPointer<ui::SplashScreen> m_splash;
-    QPointer<ui::MainMenu> m_menu;
-    QPointer<ui::NewCareerScreen> m_newCareer;
-    QPointer<ui::AddYouthScreen> m_addYouth;
-    QPointer<ui::InfoPage> m_instructions;
-    QPointer<ui::InfoPage> m_history;
-    QPointer<ui::InfoPage> m_handball;
-    QPointer<ui::PreseasonScreen> m_preseason;
-    QPointer<ui::WeekPanel> m_panel;
-    QPointer<ui::LedgerScreen> m_ledger;
-    QPointer<ui::CalendarScreen> m_calendar;
-    QPointer<ui::CallUpScreen> m_callUp;
-    QPointer<ui::TacticsScreen> m_tactics;
-    QPointer<ui::MatchScreen> m_match;
-    game::WeekEvents m_events;
+    game::Week m_week;
+    QHash<QString, ScreenKind> m_kinds;
+    QHash<QString, QPointer<QWidget>> m_loaded;
+    // The pages opened one over another, the one on show last.
+    QStringList m_pages;
 };
+
+// Registers every screen of the game.
+void registerScreens(Navigator &navigator);
 
 } // namespace app

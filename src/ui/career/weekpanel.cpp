@@ -1,8 +1,6 @@
 #include "weekpanel.h"
 
-#include "career/weekopening.h"
-#include "common/artwork.h"
-#include "store/gamestore.h"
+#include "common/plainlabel.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -26,7 +24,7 @@ QGroupBox *group(const QString &caption)
 
 QLabel *infoLabel(const char *name, int pointSize)
 {
-    auto *label = new QLabel;
+    QLabel *label = plainLabel();
     label->setObjectName(QString::fromLatin1(name));
     label->setAlignment(Qt::AlignCenter);
     label->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold; font-size: %1px; background: transparent;")
@@ -36,12 +34,11 @@ QLabel *infoLabel(const char *name, int pointSize)
 
 } // namespace
 
-WeekPanel::WeekPanel(game::Context context, const game::WeekEvents &events, QWidget *parent)
-    : QWidget(parent), m_context(context), m_events(events), m_timer(new QTimer(this))
+WeekPanel::WeekPanel(game::Week &week, const ScreenExists &exists, QWidget *parent)
+    : QWidget(parent), m_week(week), m_exists(exists), m_timer(new QTimer(this))
 {
     setObjectName(QStringLiteral("Panel_Control_Manager"));
-    // The window's title is a fixed text that nothing fills in.
-    setWindowTitle(QStringLiteral("Menu Manager ~ nombre_jugador -> equipo <-> Fecha <-partido <-> Tipo_partido/jornada"));
+    setWindowTitle(QStringLiteral("Menu Manager"));
     m_timer->setObjectName(QStringLiteral("Timer1"));
     m_timer->setSingleShot(true);
     m_timer->setInterval(100);
@@ -71,17 +68,20 @@ WeekPanel::WeekPanel(game::Context context, const game::WeekEvents &events, QWid
             layout->addWidget(button);
         layout->addStretch();
     };
-    fill(entrenador, {addButton("cmdAlineacion", tr("ALINEACIÓN"), Destination::CallUp),
-                      addButton("Command3", tr("TÁCTICA"), Destination::Tactics),
-                      addButton("cmdPlantilla", tr("PLANTILLA"), Destination::Squad)});
-    fill(seguimiento, {addButton("c", tr("CALENDARIO"), Destination::Calendar),
-                       addButton("cmdClasificacion", tr("CLASIFICACIÓN"), Destination::Standings),
-                       addButton("cmdResultados", tr("RESULTADOS"), Destination::Results)});
-    fill(finanzas, {addButton("cmdCaja", tr("CAJA"), Destination::Ledger),
-                    addButton("cmdEstadio", tr("ESTADIO"), Destination::Stadium)});
-    fill(mercado, {addButton("cmdfichar", tr("FICHAR"), Destination::Market)});
+    fill(entrenador, {addButton("cmdAlineacion", tr("ALINEACIÓN"), QStringLiteral("Alinear")),
+                      addButton("Command3", tr("TÁCTICA"), QStringLiteral("Tactica")),
+                      addButton("cmdPlantilla", tr("PLANTILLA"), QStringLiteral("Plantilla"))});
+    fill(seguimiento, {addButton("c", tr("CALENDARIO"), QStringLiteral("Calendario")),
+                       addButton("cmdClasificacion", tr("CLASIFICACIÓN"), QStringLiteral("Clasificacion")),
+                       addButton("cmdResultados", tr("RESULTADOS"), QStringLiteral("Resultados"))});
+    fill(finanzas, {addButton("cmdCaja", tr("CAJA"), QStringLiteral("Caja")),
+                    addButton("cmdEstadio", tr("ESTADIO"), QStringLiteral("estadios"))});
+    fill(mercado, {addButton("cmdfichar", tr("FICHAR"), QStringLiteral("Fichar_EnVenta"))});
 
-    QPushButton *play = addButton("cmdSeguir", tr("SEGUIR"), Destination::CallUp);
+    auto *play = new QPushButton(tr("SEGUIR"));
+    play->setObjectName(QStringLiteral("cmdSeguir"));
+    play->setEnabled(m_exists(QStringLiteral("Alinear")));
+    connect(play, &QPushButton::clicked, this, &WeekPanel::seguir);
     play->setMinimumHeight(44);
     play->setToolTip(tr("Convoca a tus catorce jugadores y juega el partido de la semana"));
     auto *leave = new QPushButton(tr("SALIR"));
@@ -139,62 +139,56 @@ void WeekPanel::resizeEvent(QResizeEvent *)
     m_leave->setGeometry(cx - buttonWidth / 2, h - 56, buttonWidth, 36);
 }
 
-QPushButton *WeekPanel::addButton(const char *name, const QString &caption, Destination destination)
+QPushButton *WeekPanel::addButton(const char *name, const QString &caption, const QString &screen)
 {
     auto *button = new QPushButton(caption);
     button->setObjectName(QString::fromLatin1(name));
-    connect(button, &QPushButton::clicked, this, [this, destination] { emit destinationRequested(destination); });
-    m_buttons[destination].append(button);
+    button->setEnabled(m_exists(screen));
+    connect(button, &QPushButton::clicked, this, [this, screen] { emit openRequested(screen); });
     return button;
 }
 
-void WeekPanel::setAvailable(Destination destination, bool available)
+void WeekPanel::showWeek()
 {
-    for (QPushButton *button : m_buttons[destination])
-        button->setEnabled(available);
-}
+    const std::optional<game::Fixture> &fixture = m_week.fixture();
+    m_weekLabel->setText(m_week.isOpen() ? QString::number(m_week.number()) : QString());
+    m_home->setText(fixture ? fixture->homeName : QString());
+    m_away->setText(fixture ? fixture->awayName : QString());
+    m_type->setText(fixture ? fixture->typeText() : QString());
+    m_date->setText(fixture ? game::shownDate(fixture->date) : QString());
+    m_match->setText(fixture && fixture->isLeague() ? QString::number(fixture->idpartido) : QString());
 
-bool WeekPanel::openWeek()
-{
-    game::WeekOpening opening(m_context);
-    const std::optional<game::WeekOpening::Opened> opened = opening.open();
-    if (!opened)
-        return false;
-    m_week = opened->week;
-    m_seasonOver = opened->seasonOver;
-    m_weekLabel->setText(QString::number(m_week));
-    refreshFixture();
-    m_eventsDone = false;
-    m_timer->start();
-    return true;
-}
+    // The window names the manager, his club and the week's match.
+    const game::CareerRow &career = m_week.career();
+    QString title = QStringLiteral("Menu Manager ~ %1 -> %2").arg(career.manager(), career.clubName);
+    if (fixture) {
+        const QString stage = fixture->isLeague() ? tr("Jornada %1").arg(fixture->round)
+                                                  : tr("Semana %1").arg(m_week.number());
+        title += QStringLiteral(" <-> %1 <- %2 - %3 <-> %4/%5")
+                     .arg(game::shownDate(fixture->date), fixture->homeName, fixture->awayName,
+                          fixture->typeText(), stage);
+    } else if (m_week.isOpen()) {
+        title += QStringLiteral(" <-> ") + tr("Semana %1").arg(m_week.number());
+    }
+    setWindowTitle(title);
 
-void WeekPanel::retire()
-{
-    m_timer->stop();
-    m_eventsDone = true;
+    if (m_week.isOpen() && !m_week.eventsRun())
+        m_timer->start();
 }
 
 void WeekPanel::runWeekEvents()
 {
     m_timer->stop();
-    if (m_eventsDone)
-        return;
-    m_eventsDone = true;
-    refreshFixture();
-    m_events.run(m_fixture);
+    m_week.runEvents();
 }
 
-void WeekPanel::refreshFixture()
+void WeekPanel::seguir()
 {
-    const int club = game::WeekOpening::userClubOrZero(m_context.store);
-    m_context.store.attempt([&] { m_fixture = game::fixtureOfWeek(m_context.store, m_week, club); });
-    m_home->setText(m_fixture ? m_fixture->homeName : QString());
-    m_away->setText(m_fixture ? m_fixture->awayName : QString());
-    m_type->setText(m_fixture ? m_fixture->typeText() : QString());
-    m_date->setText(m_fixture ? game::shownDate(m_fixture->date) : QString());
-    if (m_fixture && m_fixture->isLeague())
-        m_match->setText(QString::number(m_fixture->idpartido));
+    // A week whose match is recorded but whose next week could not open goes on from here.
+    if (m_week.played())
+        emit nextWeekRequested();
+    else
+        emit openRequested(QStringLiteral("Alinear"));
 }
 
 void WeekPanel::paintEvent(QPaintEvent *)

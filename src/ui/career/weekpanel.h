@@ -1,14 +1,11 @@
 #pragma once
 
-#include "career/fixture.h"
-#include "career/weekevents.h"
-#include "context.h"
+#include "career/week.h"
 
 #include <QWidget>
 
 #include <array>
-#include <map>
-#include <optional>
+#include <functional>
 
 class QLabel;
 class QPushButton;
@@ -16,35 +13,31 @@ class QTimer;
 
 namespace ui {
 
-// The week panel, hub of the career. Making it opens a new week; its first tick, 100 ms
-// later, runs the week's events once; its buttons lead to every screen of the week.
+// The week panel, hub of the career. It shows the open week and its match; 100 ms after a
+// week is first shown its events run, once; its buttons lead to every screen of the week.
+// Showing the panel never opens a week: the week is the game's, and opens only when its
+// match has been played.
 class WeekPanel : public QWidget
 {
     Q_OBJECT
 
 public:
-    enum class Destination { CallUp, Tactics, Calendar, Standings, Results, Squad, Market, Ledger, Stadium };
+    // Whether a screen of the game exists, by name: a button whose screen does not exist yet
+    // is shown disabled.
+    using ScreenExists = std::function<bool(const QString &)>;
 
-    WeekPanel(game::Context context, const game::WeekEvents &events, QWidget *parent = nullptr);
+    WeekPanel(game::Week &week, const ScreenExists &exists, QWidget *parent = nullptr);
 
-    // Opens the next week. False when the store failed (the player has been told).
-    bool openWeek();
-
-    int week() const { return m_week; }
-    bool seasonOver() const { return m_seasonOver; }
-    // The week's match as the store says now; other screens receive it as a value.
-    std::optional<game::Fixture> fixture() const { return m_fixture; }
-
-    // Stops the week's timer: the panel is being closed and its events must not run.
-    void retire();
-
+    // Shows the open week, and starts its events' timer if they have not run.
+    void showWeek();
     // Runs the week's events at once instead of waiting for the timer (a test, a tool).
     void runWeekEvents();
-    // Which destinations exist yet; the others' buttons are shown disabled.
-    void setAvailable(Destination destination, bool available);
 
 signals:
-    void destinationRequested(ui::WeekPanel::Destination destination);
+    // A button asks for its screen, by name.
+    void openRequested(const QString &screen);
+    // The week's match has been played but the next week could not open: "SEGUIR" tries again.
+    void nextWeekRequested();
     void leaveRequested();
 
 protected:
@@ -52,16 +45,12 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    QPushButton *addButton(const char *name, const QString &caption, Destination destination);
-    void refreshFixture();
+    QPushButton *addButton(const char *name, const QString &caption, const QString &screen);
+    void seguir();
 
-    game::Context m_context;
-    const game::WeekEvents &m_events;
+    game::Week &m_week;
+    ScreenExists m_exists;
     QTimer *m_timer;
-    int m_week = 0;
-    bool m_seasonOver = false;
-    bool m_eventsDone = false;
-    std::optional<game::Fixture> m_fixture;
     QLabel *m_weekLabel;
     QLabel *m_home;
     QLabel *m_away;
@@ -73,7 +62,6 @@ private:
     QPushButton *m_play;
     QPushButton *m_leave;
     std::array<QWidget *, 4> m_groups{};
-    std::map<Destination, QList<QPushButton *>> m_buttons;
 };
 
 } // namespace ui

@@ -1,7 +1,8 @@
 #include "calendarscreen.h"
 
-#include "career/weekopening.h"
+#include "career/career.h"
 #include "common/indexedlabel.h"
+#include "common/plainlabel.h"
 #include "common/theme.h"
 #include "reports/calendar.h"
 
@@ -12,16 +13,6 @@
 
 namespace ui {
 
-namespace {
-
-// How many rows each column of the calendar has room for: the fixture six, the competition
-// and the round five, the date four. The later weeks of the seven show less.
-constexpr int kFixtureRows = 6;
-constexpr int kTypeRows = 5;
-constexpr int kDateRows = 4;
-
-} // namespace
-
 CalendarScreen::CalendarScreen(game::Context context, int currentWeek, QWidget *parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("Calendario"));
@@ -29,7 +20,7 @@ CalendarScreen::CalendarScreen(game::Context context, int currentWeek, QWidget *
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QStringLiteral("QWidget#Calendario { background-color: #0f1e3c; }"));
 
-    const int club = game::WeekOpening::userClubOrZero(context.store);
+    const int club = game::Career::current(context).club;
     const std::vector<game::Calendar::Row> rows = game::Calendar(context.store).rows(currentWeek, club);
 
     auto *grid = new QGridLayout;
@@ -37,26 +28,26 @@ CalendarScreen::CalendarScreen(game::Context context, int currentWeek, QWidget *
     grid->setVerticalSpacing(14);
     const char *headers[] = {"PARTIDO", "COMPETICIÓN", "", "FECHA"};
     for (int column = 0; column < 4; ++column) {
-        auto *header = new QLabel(tr(headers[column]));
+        auto *header = plainLabel(tr(headers[column]));
         header->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
         grid->addWidget(header, 0, column);
     }
     const QString cell = QStringLiteral("color: #ffffff; background: #162a50; border-radius: 3px; padding: 4px 8px;");
+    // Every week of the walk gets its whole row: fixture, competition, round and date. A week
+    // past the season's last match has no fixture, and its row stays empty.
     for (int i = 0; i < game::Calendar::kWeeksShown; ++i) {
         const game::Calendar::Row &row = rows[std::size_t(i)];
-        auto place = [&](const char *name, int limit, int column, const QString &text) {
-            if (i >= limit)
-                return;
+        auto place = [&](const char *name, int column, const QString &text) {
             QLabel *label = indexed::label(name, i);
             label->setText(text);
             label->setStyleSheet(i == 0 ? cell + QStringLiteral("font-weight: bold; border: 1px solid #e8a33d;") : cell);
             label->setMinimumHeight(30);
             grid->addWidget(label, i + 1, column);
         };
-        place("lblEquiposHoy", kFixtureRows, 0, row.fixture);
-        place("lblTipo", kTypeRows, 1, row.type);
-        place("lblTipo2", kTypeRows, 2, row.subtype);
-        place("lblFecha", kDateRows, 3, row.date);
+        place("lblEquiposHoy", 0, row.fixture);
+        place("lblTipo", 1, row.type);
+        place("lblTipo2", 2, row.subtype);
+        place("lblFecha", 3, row.date);
     }
     grid->setColumnStretch(0, 3);
     grid->setColumnStretch(1, 1);

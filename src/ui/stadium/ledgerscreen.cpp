@@ -1,9 +1,9 @@
 #include "ledgerscreen.h"
 
 #include "common/indexedlabel.h"
+#include "common/plainlabel.h"
 #include "common/theme.h"
 #include "money.h"
-#include "store/gamestore.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -33,7 +33,7 @@ const Line kSpending[] = {{"lblContratar", "CONTRATAR JUGADOR"}, {"lblRescindir"
 
 QLabel *captionLabel(const char *text, bool total = false)
 {
-    auto *label = new QLabel(QString::fromUtf8(text));
+    auto *label = plainLabel(QString::fromUtf8(text));
     label->setStyleSheet(total ? QStringLiteral("color: #e8a33d; font-weight: bold;") : QStringLiteral("color: #b9c3d8;"));
     return label;
 }
@@ -49,7 +49,7 @@ QLabel *amountLabel(const char *name, int index)
 
 void addLines(QGridLayout *grid, int column, const char *heading, const Line *lines, int count, int index)
 {
-    auto *title = new QLabel(QString::fromUtf8(heading));
+    auto *title = plainLabel(QString::fromUtf8(heading));
     title->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold; font-size: 15px;"));
     grid->addWidget(title, 0, column, 1, 2);
     for (int i = 0; i < count; ++i) {
@@ -75,7 +75,7 @@ LedgerScreen::LedgerScreen(game::Context context, int currentWeek, QWidget *pare
 
     // The week before, shown with the week.
     auto *before = new QGridLayout;
-    auto *beforeTitle = new QLabel(tr("SEMANA ANTERIOR"));
+    auto *beforeTitle = plainLabel(tr("SEMANA ANTERIOR"));
     beforeTitle->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold; font-size: 15px;"));
     before->addWidget(beforeTitle, 0, 0, 1, 2);
     const std::pair<const char *, const char *> previous[] = {
@@ -83,7 +83,7 @@ LedgerScreen::LedgerScreen(game::Context context, int currentWeek, QWidget *pare
     int row = 1;
     for (const auto &[name, caption] : previous) {
         before->addWidget(captionLabel(caption), row, 0);
-        auto *amount = new QLabel;
+        auto *amount = plainLabel();
         amount->setObjectName(QString::fromLatin1(name));
         amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         amount->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold;"));
@@ -135,7 +135,7 @@ LedgerScreen::LedgerScreen(game::Context context, int currentWeek, QWidget *pare
     connect(back, &QPushButton::clicked, this, &LedgerScreen::closeRequested);
 
     auto *stepper = new QHBoxLayout;
-    stepper->addWidget(new QLabel(tr("SEMANA")));
+    stepper->addWidget(plainLabel(tr("SEMANA")));
     stepper->addWidget(less);
     stepper->addWidget(m_weekBox);
     stepper->addWidget(more);
@@ -170,7 +170,7 @@ QGroupBox *LedgerScreen::buildFrame(const char *name, const QString &caption, in
     grid->setColumnMinimumWidth(2, 40);
 
     auto *current = new QGridLayout;
-    auto *title = new QLabel(index == 0 ? tr("SEMANA ACTUAL") : tr("TEMPORADA ACTUAL"));
+    auto *title = plainLabel(index == 0 ? tr("SEMANA ACTUAL") : tr("TEMPORADA ACTUAL"));
     title->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold; font-size: 15px;"));
     current->addWidget(title, 0, 0, 1, 2);
     const std::pair<const char *, const char *> totals[] = {{"lblISA", "INGRESOS"}, {"lblGSA", "GASTOS"}, {"lblCA", "CAJA"}};
@@ -202,41 +202,36 @@ void LedgerScreen::setAmount(const char *label, int index, qint64 amount)
 void LedgerScreen::fill()
 {
     m_weekBox->setText(m_browser.weekText());
-    game::Ledger ledger(m_context.store);
-    m_context.store.attempt([&] {
-        const int viewed = m_browser.viewedWeek();
-        const game::Ledger::Row week = ledger.row(viewed).value_or(game::Ledger::Row{});
-        const qint64 weekValues[] = {week.taquilla, week.publicidad, week.television, week.ventaJugadores,
-                                     week.tiendas, week.ingresos, week.fichajes, week.despidos,
-                                     week.salarios, week.hospitales, week.empleados, week.remodelaciones,
-                                     week.gastos};
-        const game::Ledger::Row season = ledger.seasonTotals();
-        const qint64 seasonValues[] = {season.taquilla, season.publicidad, season.television, season.ventaJugadores,
-                                       season.tiendas, season.ingresos, season.fichajes, season.despidos,
-                                       season.salarios, season.hospitales, season.empleados, season.remodelaciones,
-                                       season.gastos};
-        int i = 0;
-        for (const Line &line : kIncome) {
-            setAmount(line.label, 0, weekValues[i]);
-            setAmount(line.label, 1, seasonValues[i++]);
-        }
-        for (const Line &line : kSpending) {
-            setAmount(line.label, 0, weekValues[i]);
-            setAmount(line.label, 1, seasonValues[i++]);
-        }
-        setAmount("lblISA", 0, week.ingresos);
-        setAmount("lblGSA", 0, week.gastos);
-        setAmount("lblCA", 0, week.caja);
-        setAmount("lblISA", 1, season.ingresos);
-        setAmount("lblGSA", 1, season.gastos);
-        // The season's cash is the balance of the earliest week on file.
-        setAmount("lblCA", 1, ledger.firstBalance());
+    const game::Ledger::Sheet sheet = game::Ledger(m_context.store).sheet(m_browser.viewedWeek());
+    const game::Ledger::Row &week = sheet.week;
+    const game::Ledger::Row &season = sheet.season;
+    const qint64 weekValues[] = {week.taquilla, week.publicidad, week.television, week.ventaJugadores,
+                                 week.tiendas, week.ingresos, week.fichajes, week.despidos,
+                                 week.salarios, week.hospitales, week.empleados, week.remodelaciones,
+                                 week.gastos};
+    const qint64 seasonValues[] = {season.taquilla, season.publicidad, season.television, season.ventaJugadores,
+                                   season.tiendas, season.ingresos, season.fichajes, season.despidos,
+                                   season.salarios, season.hospitales, season.empleados, season.remodelaciones,
+                                   season.gastos};
+    int i = 0;
+    for (const Line &line : kIncome) {
+        setAmount(line.label, 0, weekValues[i]);
+        setAmount(line.label, 1, seasonValues[i++]);
+    }
+    for (const Line &line : kSpending) {
+        setAmount(line.label, 0, weekValues[i]);
+        setAmount(line.label, 1, seasonValues[i++]);
+    }
+    setAmount("lblISA", 0, week.ingresos);
+    setAmount("lblGSA", 0, week.gastos);
+    setAmount("lblCA", 0, week.caja);
+    setAmount("lblISA", 1, season.ingresos);
+    setAmount("lblGSA", 1, season.gastos);
+    setAmount("lblCA", 1, sheet.seasonCash);
 
-        const std::optional<game::Ledger::Row> before = ledger.row(viewed - 1);
-        findChild<QLabel *>(QStringLiteral("lblIngresosAnterior"))->setText(game::euros(before ? before->ingresos : 0));
-        findChild<QLabel *>(QStringLiteral("lblGastosAnterior"))->setText(game::euros(before ? before->gastos : 0));
-        findChild<QLabel *>(QStringLiteral("lblCajaAnterior"))->setText(game::euros(before ? before->caja : 0));
-    });
+    findChild<QLabel *>(QStringLiteral("lblIngresosAnterior"))->setText(game::euros(sheet.before.ingresos));
+    findChild<QLabel *>(QStringLiteral("lblGastosAnterior"))->setText(game::euros(sheet.before.gastos));
+    findChild<QLabel *>(QStringLiteral("lblCajaAnterior"))->setText(game::euros(sheet.before.caja));
 }
 
 } // namespace ui
