@@ -20,7 +20,7 @@ protected:
             click(QStringLiteral("cmdNoJugar"));
         click(QStringLiteral("cmdSeguir"));
         ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
-        m_navigator->weekPanel()->runWeekEvents();
+        m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager"))->runWeekEvents();
     }
 
     // Picks the grid row of a player and a place of the list, and presses "Añadir".
@@ -34,7 +34,7 @@ protected:
 
     QString placeText(int place) { return find<QListWidget>(QStringLiteral("list1"))->item(place)->text(); }
 
-    ui::MatchScreen *match() { return m_navigator->matchScreen(); }
+    ui::MatchScreen *match() { return m_navigator->screen<ui::MatchScreen>(QStringLiteral("partido")); }
 
     QString entry(const char *row, int index)
     {
@@ -69,7 +69,7 @@ TEST_F(MatchScreens, aMatchIsCalledUpPlayedChangedAndLeftForTheNextWeek)
 {
     reachFirstLeagueWeek();
     EXPECT_EQ(count("jugar"), 7);
-    const int matchId = m_navigator->weekPanel()->fixture()->idpartido;
+    const int matchId = m_navigator->week().fixture()->idpartido;
 
     click(QStringLiteral("cmdSeguir"));
     ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Alinear"));
@@ -204,4 +204,33 @@ TEST_F(MatchScreens, aResultThatCannotBeWrittenKeepsTheWeekOpen)
     EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("1"));
     EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 1);
     EXPECT_EQ(m_store->integer("select sum(Puntos) from asobal"), 0);
+}
+
+// Guards: the grid's pick lost when "Añadir" reads the lists again, so that a second press
+// with only another place chosen places nobody instead of moving the same player.
+TEST_F(MatchScreens, thePickedPlayerStaysPickedToBeMovedOnWithASecondPress)
+{
+    reachFirstLeagueWeek();
+    click(QStringLiteral("cmdSeguir"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Alinear"));
+    auto *grid = find<QTableView>(QStringLiteral("DataGrid1"));
+    auto *places = find<QListWidget>(QStringLiteral("list1"));
+    const int gridRow = 2;
+    const QString playerId = grid->model()->index(gridRow, 0).data().toString();
+    const QString nombre = grid->model()->index(gridRow, 1).data().toString();
+
+    placeRow(gridRow, 0);
+    EXPECT_TRUE(placeText(0).startsWith(QStringLiteral("PORTERO: ") + nombre + QLatin1Char(' '))) << placeText(0).toStdString();
+    ASSERT_TRUE(grid->currentIndex().isValid());
+    EXPECT_EQ(grid->model()->index(grid->currentIndex().row(), 0).data().toString(), playerId);
+    EXPECT_EQ(places->currentRow(), 0);
+
+    places->setCurrentRow(3);
+    click(QStringLiteral("cmdAñadir"));
+    EXPECT_TRUE(placeText(3).startsWith(QStringLiteral("LATERAL IZQUIERDO: ") + nombre + QLatin1Char(' '))) << placeText(3).toStdString();
+    EXPECT_EQ(placeText(0), QStringLiteral("PORTERO: PORTERO  - "));
+    EXPECT_EQ(places->currentRow(), 3);
+    EXPECT_EQ(m_store->text("select Pos_Partido from miequipo where idjugador = ?", playerId.toInt()),
+              QStringLiteral("LATERAL IZQUIERDO"));
+    EXPECT_EQ(m_store->integer("select count(*) from miequipo where idjugador <> 0"), 1);
 }

@@ -74,6 +74,7 @@ TEST_F(Screens, aNewCareerGoesFromTheMenuToThePlanner)
     auto *nationality = find<QComboBox>(QStringLiteral("list1"));
     EXPECT_EQ(nationality->count(), 30);
     EXPECT_EQ(nationality->currentIndex(), 10);
+    EXPECT_EQ(nationality->currentText(), QStringLiteral("Eslovenia")); // the eleventh of the list
 
     click(QStringLiteral("cmdSeguir"));
     EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("introduce Nombre y Apellidos")});
@@ -183,6 +184,75 @@ TEST_F(Screens, aYouthIsAddedFromTheMenuAndTheFormIsReadyForTheNext)
     EXPECT_EQ(position->currentIndex(), -1);
     EXPECT_EQ(country->currentIndex(), -1);
     EXPECT_TRUE(screen->isVisible());
+}
+
+// Guards: an age past 19 or a shirt number past 99 left in the boxes, beyond what the bars allow.
+TEST_F(Screens, theYouthBoxesGoNoFurtherThanTheirBars)
+{
+    goToMenu();
+    click(QStringLiteral("Command2"));
+    auto *edadBar = find<QScrollBar>(QStringLiteral("HScroll1"));
+    auto *dorsalBar = find<QScrollBar>(QStringLiteral("HScroll2"));
+    auto *edad = find<QLineEdit>(QStringLiteral("txtEdad"));
+    auto *dorsal = find<QLineEdit>(QStringLiteral("txtDorsal"));
+    ASSERT_TRUE(edadBar && dorsalBar && edad && dorsal);
+    EXPECT_EQ(edadBar->minimum(), 16);
+    EXPECT_EQ(edadBar->maximum(), 19);
+    EXPECT_EQ(dorsalBar->minimum(), 1);
+    EXPECT_EQ(dorsalBar->maximum(), 99);
+
+    // The bars stop at their ends, and the boxes follow them.
+    for (int step = 0; step < 10; ++step) {
+        edadBar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        dorsalBar->triggerAction(QAbstractSlider::SliderPageStepAdd);
+    }
+    for (int step = 0; step < 100; ++step)
+        dorsalBar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    EXPECT_EQ(edad->text(), QStringLiteral("19"));
+    EXPECT_EQ(dorsal->text(), QStringLiteral("99"));
+
+    // Typed past the end, the number goes back to the bar's when the box is left; a third
+    // digit does not go in at all.
+    edad->setFocus();
+    edad->selectAll();
+    QTest::keyClicks(edad, QStringLiteral("20"));
+    EXPECT_EQ(edadBar->value(), 19);
+    QTest::keyClick(edad, Qt::Key_Tab);
+    EXPECT_EQ(edad->text(), QStringLiteral("19"));
+    dorsal->setFocus();
+    dorsal->selectAll();
+    QTest::keyClicks(dorsal, QStringLiteral("100"));
+    EXPECT_EQ(dorsal->text(), QStringLiteral("10"));
+    EXPECT_EQ(dorsalBar->value(), 10);
+    EXPECT_TRUE(m_dialogs.texts().isEmpty());
+}
+
+// Guards: a manager's name read as markup, shown in italics or bold or with its tags lost.
+TEST_F(Screens, aTypedNameShowsAsTypedNeverAsMarkup)
+{
+    const QString nombre = QStringLiteral("<i>Zoë</i>");
+    const QString apellidos = QStringLiteral("O'Brien & <b>Co</b>");
+    goToMenu();
+    click(QStringLiteral("Command4"));
+    type(QStringLiteral("txtNombre"), nombre);
+    type(QStringLiteral("txtApellidos"), apellidos);
+    QTest::mouseClick(find(QStringLiteral("ITeucro")), Qt::LeftButton);
+    QWidget *form = find(QStringLiteral("Liga_Manager"));
+    ASSERT_NE(form, nullptr);
+    for (QLabel *label : form->findChildren<QLabel *>())
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString() << " " << label->text().toStdString();
+    click(QStringLiteral("cmdSeguir"));
+    settle();
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Pretemporada"));
+
+    auto *name = find<QLabel>(QStringLiteral("lblNombre"));
+    ASSERT_NE(name, nullptr);
+    EXPECT_EQ(name->textFormat(), Qt::PlainText);
+    EXPECT_EQ(name->text(), nombre + QLatin1Char(' ') + apellidos);
+    // Every label of the planner, the slots' clubs included, shows its text as it is.
+    for (QLabel *label : m_navigator->current()->findChildren<QLabel *>())
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString() << " " << label->text().toStdString();
+    screenshot(QStringLiteral("planner_typed_name"));
 }
 
 // Guards: a career that survives quitting, which would make the next start a strange one.

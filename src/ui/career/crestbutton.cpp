@@ -9,6 +9,8 @@ namespace ui {
 CrestButton::CrestButton(int clubId, const QString &caption, int side, QWidget *parent)
     : QLabel(parent), m_clubId(clubId), m_caption(caption)
 {
+    // A crest shows a picture; should it ever show text, that text is a name, never markup.
+    setTextFormat(Qt::PlainText);
     setPixmap(artwork::crest(clubId, QSize(side - 12, side - 12)));
     setAlignment(Qt::AlignCenter);
     setFixedSize(side, side);

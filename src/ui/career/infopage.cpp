@@ -48,6 +48,8 @@ InfoPage::InfoPage(Kind kind, QWidget *parent) : QDialog(parent), m_kind(kind)
         setWindowTitle(history ? tr("Historia de Balonmano - Wikipedia") : tr("Balonmano - Wikipedia"));
         heading = history ? tr("HISTORIA DEL BALONMANO") : tr("INFORMACIÓN SOBRE BALONMANO");
         const QUrl address = history ? historyPage() : handballSite();
+        // Markup on purpose: the page is the game's own text, with its own address as a link,
+        // and nothing the player typed goes into it.
         m_page->setHtml(tr("<div style='font-family: sans-serif; margin: 24px;'>"
                            "<h2>%1</h2>"
                            "<p>La página se ha abierto en tu navegador de Internet.</p>"

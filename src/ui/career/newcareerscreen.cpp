@@ -3,6 +3,7 @@
 #include "career/leagueclubs.h"
 #include "career/newcareer.h"
 #include "career/nationalities.h"
+#include "common/plainlabel.h"
 #include "common/theme.h"
 #include "crestbutton.h"
 
@@ -50,7 +51,7 @@ NewCareerScreen::NewCareerScreen(game::Context context, QWidget *parent)
     m_nationality->setCurrentIndex(10);
     m_nationality->setMaxVisibleItems(15);
 
-    m_chosen = new QLabel;
+    m_chosen = plainLabel();
     m_chosen->setObjectName(QStringLiteral("lblEquiposel"));
     m_chosen->setProperty("role", QStringLiteral("value"));
     m_chosen->setMinimumWidth(260);
@@ -83,7 +84,7 @@ NewCareerScreen::NewCareerScreen(game::Context context, QWidget *parent)
         connect(crest, &CrestButton::clicked, this, &NewCareerScreen::chooseClub);
         m_crests.append(crest);
     }
-    m_hovered = new QLabel;
+    m_hovered = plainLabel();
     m_hovered->setObjectName(QStringLiteral("lblEquipo"));
     m_hovered->setAlignment(Qt::AlignCenter);
     m_hovered->setMinimumHeight(30);
@@ -107,7 +108,7 @@ NewCareerScreen::NewCareerScreen(game::Context context, QWidget *parent)
     auto *top = new QHBoxLayout;
     top->addLayout(form, 1);
     top->addSpacing(40);
-    auto *hint = new QLabel(tr("Pasa el ratón por los escudos para ver cada equipo y pulsa sobre el tuyo."));
+    auto *hint = plainLabel(tr("Pasa el ratón por los escudos para ver cada equipo y pulsa sobre el tuyo."));
     hint->setProperty("role", QStringLiteral("hint"));
     hint->setWordWrap(true);
     top->addWidget(hint, 1, Qt::AlignBottom);

@@ -3,6 +3,7 @@
 #include "career/fixture.h"
 #include "common/artwork.h"
 #include "common/indexedlabel.h"
+#include "common/plainlabel.h"
 #include "common/theme.h"
 
 #include <QEvent>
@@ -21,7 +22,7 @@ namespace {
 
 QLabel *columnHeader(const QString &text)
 {
-    auto *label = new QLabel(text);
+    auto *label = plainLabel(text);
     label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
     return label;
 }
@@ -38,10 +39,10 @@ PreseasonScreen::PreseasonScreen(game::Context context, QWidget *parent)
 
     m_planner.begin();
 
-    auto *name = new QLabel(m_planner.manager());
+    auto *name = plainLabel(m_planner.manager());
     name->setObjectName(QStringLiteral("lblNombre"));
     name->setProperty("role", QStringLiteral("value"));
-    auto *club = new QLabel(m_planner.clubName());
+    auto *club = plainLabel(m_planner.clubName());
     club->setObjectName(QStringLiteral("lblEquipo"));
     club->setProperty("role", QStringLiteral("value"));
     auto *who = new QHBoxLayout;
@@ -82,10 +83,10 @@ PreseasonScreen::PreseasonScreen(game::Context context, QWidget *parent)
 QWidget *PreseasonScreen::buildCountries()
 {
     auto *box = new QGroupBox(tr("RIVALES PARA"));
-    m_countryChosen = new QLabel;
+    m_countryChosen = plainLabel();
     m_countryChosen->setObjectName(QStringLiteral("lblPaisSel"));
     m_countryChosen->setStyleSheet(QStringLiteral("color: #ffffff; font-size: 16px; font-weight: bold;"));
-    m_countryHovered = new QLabel;
+    m_countryHovered = plainLabel();
     m_countryHovered->setObjectName(QStringLiteral("lblPaises"));
     m_countryHovered->setProperty("role", QStringLiteral("hint"));
     m_countryHovered->setMinimumHeight(22);
@@ -118,7 +119,7 @@ QWidget *PreseasonScreen::buildCountries()
                                           "QListWidget::item:selected { background: #e8a33d; color: #10203f; }"));
     connect(m_clubs, &QListWidget::itemClicked, this, [this](QListWidgetItem *item) { chooseClub(item->text()); });
 
-    m_clubChosen = new QLabel;
+    m_clubChosen = plainLabel();
     m_clubChosen->setObjectName(QStringLiteral("lblNombreEquipo"));
     m_clubChosen->setProperty("role", QStringLiteral("value"));
 
@@ -142,7 +143,7 @@ QWidget *PreseasonScreen::buildSlots()
     grid->addWidget(columnHeader(tr("EQUIPO LOCAL")), 0, 2);
     grid->addWidget(columnHeader(tr("EQUIPO VISITANTE")), 0, 3);
     for (int slot = 0; slot < game::Preseason::kSlots; ++slot) {
-        auto *kind = new QLabel(slot < 4 ? tr("Preparación:") : tr("Presentación:"));
+        auto *kind = plainLabel(slot < 4 ? tr("Preparación:") : tr("Presentación:"));
         kind->setStyleSheet(QStringLiteral("color: #b9c3d8; font-weight: bold;"));
         grid->addWidget(kind, slot + 1, 0);
         for (const char *name : {"lblFecha", "lblEquipoLocal", "lblEquipoVis"}) {
@@ -178,7 +179,7 @@ QWidget *PreseasonScreen::buildSlots()
     actions->addWidget(m_decline);
     actions->addWidget(erase);
 
-    auto *hint = new QLabel(tr("Elige un país y pulsa sobre un club de la lista para llenar el siguiente partido, "
+    auto *hint = plainLabel(tr("Elige un país y pulsa sobre un club de la lista para llenar el siguiente partido, "
                                "o pulsa «No Jugar» para dejarlo libre. El quinto partido, la presentación, "
                                "se juega en casa."));
     hint->setProperty("role", QStringLiteral("hint"));

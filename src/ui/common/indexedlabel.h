@@ -1,15 +1,18 @@
 #pragma once
 
+#include "plainlabel.h"
+
 #include <QLabel>
 #include <QWidget>
 
 // Rows of a screen that repeat the same widget (the five slots of the planner, the rows of
 // the calendar) share one name and tell themselves apart by an "index" property, 0 first.
+// Such rows carry clubs' and players' names, so their text is plain, never markup.
 namespace indexed {
 
 inline QLabel *label(const char *name, int index, QWidget *parent = nullptr)
 {
-    auto *widget = new QLabel(parent);
+    QLabel *widget = ui::plainLabel({}, parent);
     widget->setObjectName(QString::fromLatin1(name));
     widget->setProperty("index", index);
     return widget;

@@ -20,6 +20,9 @@ void MessageBoxDialogs::tell(const QString &text, Icon icon, const QString &titl
 {
     QMessageBox box(currentWindow());
     box.setWindowTitle(title.isEmpty() ? QStringLiteral("Zarpazo") : title);
+    // The game's messages may carry names the player typed or the store's own words; they are
+    // shown as written, never read as markup.
+    box.setTextFormat(Qt::PlainText);
     box.setText(text);
     switch (icon) {
     case Icon::Information:
@@ -36,8 +39,9 @@ void MessageBoxDialogs::tell(const QString &text, Icon icon, const QString &titl
 
 bool MessageBoxDialogs::ask(const QString &title, const QString &text)
 {
-    return QMessageBox::question(currentWindow(), title, text, QMessageBox::Yes | QMessageBox::No)
-           == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, currentWindow());
+    box.setTextFormat(Qt::PlainText);
+    return box.exec() == QMessageBox::Yes;
 }
 
 } // namespace ui

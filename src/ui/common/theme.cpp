@@ -1,5 +1,7 @@
 #include "theme.h"
 
+#include "plainlabel.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QLabel>
@@ -42,7 +44,7 @@ void apply(QApplication &app)
 
 QLabel *heading(const QString &text, QWidget *parent)
 {
-    auto *label = new QLabel(text, parent);
+    QLabel *label = ui::plainLabel(text, parent);
     label->setProperty("role", QStringLiteral("heading"));
     label->setAlignment(Qt::AlignCenter);
     return label;
@@ -54,7 +56,7 @@ namespace theme {
 
 QLabel *fieldCaption(const QString &text, QWidget *parent)
 {
-    auto *label = new QLabel(text, parent);
+    QLabel *label = ui::plainLabel(text, parent);
     label->setStyleSheet(QStringLiteral("color: #b9c3d8; font-weight: bold;"));
     return label;
 }

@@ -1,6 +1,7 @@
 #include "callupscreen.h"
 
 #include "common/gridstyle.h"
+#include "common/plainlabel.h"
 #include "common/rowsmodel.h"
 #include "common/theme.h"
 
@@ -10,6 +11,8 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace ui {
 
@@ -52,16 +55,16 @@ CallUpScreen::CallUpScreen(game::Context context, QWidget *parent)
     connect(back, &QPushButton::clicked, this, &CallUpScreen::closeRequested);
 
     auto *left = new QVBoxLayout;
-    auto *playersCaption = new QLabel(tr("JUGADORES DEL CLUB"));
+    auto *playersCaption = plainLabel(tr("JUGADORES DEL CLUB"));
     playersCaption->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
     left->addWidget(playersCaption);
     left->addWidget(m_grid, 1);
     auto *right = new QVBoxLayout;
-    auto *placesCaption = new QLabel(tr("CONVOCATORIA"));
+    auto *placesCaption = plainLabel(tr("CONVOCATORIA"));
     placesCaption->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
     right->addWidget(placesCaption);
     right->addWidget(m_places, 1);
-    auto *hint = new QLabel(tr("Elige un jugador en la tabla y una plaza en la lista, y pulsa «Añadir»."));
+    auto *hint = plainLabel(tr("Elige un jugador en la tabla y una plaza en la lista, y pulsa «Añadir»."));
     hint->setProperty("role", QStringLiteral("hint"));
     hint->setWordWrap(true);
     right->addWidget(hint);
@@ -88,13 +91,23 @@ CallUpScreen::CallUpScreen(game::Context context, QWidget *parent)
 
 void CallUpScreen::reload()
 {
+    // The picks outlive a reload: the player picked in the grid and the place picked in the
+    // list stay picked, so that he can be moved on to another place with one more press.
+    // The grid is read afresh, so its pick is kept by the player's id, not by its row.
+    const int pickedId = pickedPlayerId();
+    const int pickedColumn = std::max(m_grid->currentIndex().column(), 0);
     std::vector<QStringList> rows;
+    int pickedRow = -1;
     for (const game::CallUp::Player &player : m_callUp.squad()) {
+        if (player.id == pickedId)
+            pickedRow = int(rows.size());
         rows.push_back({QString::number(player.id), player.nombre, player.apellidos, player.posicion,
                         QString::number(player.media), QString::number(player.dorsal), QString::number(player.lesiones)});
     }
     m_players->setRows(std::move(rows));
     m_grid->resizeColumnsToContents();
+    if (pickedRow >= 0)
+        m_grid->setCurrentIndex(m_players->index(pickedRow, pickedColumn));
 
     const int current = m_places->currentRow();
     m_places->clear();
@@ -104,12 +117,16 @@ void CallUpScreen::reload()
         m_places->setCurrentRow(current);
 }
 
-void CallUpScreen::add()
+int CallUpScreen::pickedPlayerId() const
 {
     // The id of the row picked in the grid, whichever cell of it was pressed.
     const QModelIndex picked = m_grid->currentIndex();
-    const int playerId = picked.isValid() ? m_players->row(picked.row()).at(0).toInt() : 0;
-    if (m_callUp.place(m_places->currentRow(), playerId))
+    return picked.isValid() ? m_players->row(picked.row()).at(0).toInt() : 0;
+}
+
+void CallUpScreen::add()
+{
+    if (m_callUp.place(m_places->currentRow(), pickedPlayerId()))
         reload();
 }
 

@@ -28,6 +28,8 @@ signals:
 
 private:
     void add();
+    // The id of the player picked in the grid, or 0 with no pick.
+    int pickedPlayerId() const;
 
     game::Context m_context;
     game::CallUp m_callUp;

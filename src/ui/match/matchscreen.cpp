@@ -2,6 +2,7 @@
 
 #include "common/clickablelabel.h"
 #include "common/indexedlabel.h"
+#include "common/plainlabel.h"
 #include "dialogs.h"
 #include "match/matchday.h"
 #include "match/tactics.h"
@@ -26,15 +27,32 @@ const QString kPickedRow = QStringLiteral("background: rgb(255, 0, 0); color: #f
 
 QLabel *heading(const QString &text)
 {
-    auto *label = new QLabel(text);
+    QLabel *label = plainLabel(text);
     label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
     return label;
+}
+
+// A label whose text comes from the store (a club, a player, a stadium) takes the room the
+// layout gives it and no more, so a long name never widens the screen; the whole name is in
+// its tooltip.
+template<typename Label>
+Label *yielding(Label *label)
+{
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    label->setMinimumWidth(0);
+    return label;
+}
+
+void setNamed(QLabel *label, const QString &text)
+{
+    label->setText(text);
+    label->setToolTip(text);
 }
 
 // Two-entry widgets: entry 0 the home club's, entry 1 the away club's.
 QLabel *sideLabel(const char *name, int side, const QString &style)
 {
-    QLabel *label = indexed::label(name, side);
+    QLabel *label = yielding(indexed::label(name, side));
     label->setAlignment(Qt::AlignCenter);
     label->setStyleSheet(style);
     return label;
@@ -58,7 +76,8 @@ QColor lineColour(game::MatchEngine::Line::Kind kind)
 
 } // namespace
 
-MatchScreen::MatchScreen(game::Context context, const game::Fixture &fixture, QWidget *parent)
+MatchScreen::MatchScreen(game::Context context, const game::Fixture &fixture, const game::Week::Kickoff &kickoff,
+                         QWidget *parent)
     : QDialog(parent), m_context(context), m_fixture(fixture), m_timer(new QTimer(this))
 {
     setObjectName(QStringLiteral("partido"));
@@ -68,8 +87,7 @@ MatchScreen::MatchScreen(game::Context context, const game::Fixture &fixture, QW
     m_timer->setInterval(kTickMilliseconds);
     connect(m_timer, &QTimer::timeout, this, &MatchScreen::tick);
 
-    game::MatchDay matchDay(context);
-    m_engine = std::make_unique<game::MatchEngine>(context.random, matchDay.setup(fixture));
+    m_engine = std::make_unique<game::MatchEngine>(context.random, kickoff.setup);
 
     auto *body = new QHBoxLayout;
     body->setSpacing(16);
@@ -86,11 +104,12 @@ MatchScreen::MatchScreen(game::Context context, const game::Fixture &fixture, QW
     m_system->addItems(game::Tactics::defences());
     m_system->setCurrentIndex(m_system->findText(m_engine->setup().system));
     connect(m_system, &QComboBox::activated, this, [this] { m_engine->announceSystem(m_system->currentText()); refresh(); });
-    findChild<QComboBox *>(QStringLiteral("DataCombo1"))->addItems(matchDay.squadSurnames());
+    findChild<QComboBox *>(QStringLiteral("DataCombo1"))->addItems(game::MatchDay(context).squadSurnames());
 
-    // The crowd is settled before a ball is thrown; at home it is in the ledger at once.
-    showGate(game::Gate(context).settle(fixture));
+    // The crowd was settled before a ball is thrown; at home it is in the ledger already.
+    showGate(kickoff.gate);
     refresh();
+    setMaximumSize(1280, 720);
     resize(1240, 700);
 }
 
@@ -104,18 +123,18 @@ QWidget *MatchScreen::buildScoreboard()
     const QString scoreStyle = QStringLiteral("color: #e8a33d; font-size: 34px; font-weight: bold; background: #000000;"
                                               " border-radius: 6px; padding: 2px 14px; font-family: monospace;");
     QLabel *home = sideLabel("lblEquipoLoc", 0, nameStyle);
-    home->setText(m_fixture.homeName);
+    setNamed(home, m_fixture.homeName);
     home->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     QLabel *away = sideLabel("lblEquipoVis", 0, nameStyle);
-    away->setText(m_fixture.awayName);
+    setNamed(away, m_fixture.awayName);
     away->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (int side = 0; side < 2; ++side) {
         m_score[std::size_t(side)] = sideLabel("lblMarcador", side, scoreStyle);
         m_score[std::size_t(side)]->setText(QStringLiteral("0"));
     }
-    auto *minuteCaption = new QLabel(tr("Minuto:"));
+    QLabel *minuteCaption = plainLabel(tr("Minuto:"));
     minuteCaption->setStyleSheet(QStringLiteral("color: #b9c3d8; background: transparent;"));
-    m_minute = new QLabel(QStringLiteral("0"));
+    m_minute = plainLabel(QStringLiteral("0"));
     m_minute->setObjectName(QStringLiteral("lblmin"));
     m_minute->setStyleSheet(QStringLiteral("color: #ffffff; font-size: 22px; font-weight: bold; background: transparent;"));
 
@@ -124,7 +143,7 @@ QWidget *MatchScreen::buildScoreboard()
     row->addWidget(home, 1);
     row->addSpacing(12);
     row->addWidget(m_score[0]);
-    auto *dash = new QLabel(QStringLiteral("-"));
+    QLabel *dash = plainLabel(QStringLiteral("-"));
     dash->setStyleSheet(QStringLiteral("color: #ffffff; font-size: 28px; background: transparent;"));
     row->addWidget(dash);
     row->addWidget(m_score[1]);
@@ -149,7 +168,7 @@ QWidget *MatchScreen::buildRows()
     int gridRow = 1;
     for (int row = 0; row < game::MatchEngine::kRows; ++row) {
         if (row == 0 || row == game::MatchEngine::kStarters) {
-            auto *section = new QLabel(row == 0 ? tr("TITULARES") : tr("SUPLENTES"));
+            QLabel *section = plainLabel(row == 0 ? tr("TITULARES") : tr("SUPLENTES"));
             section->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold; padding-top: 4px;"));
             grid->addWidget(section, gridRow++, 0, 1, 5);
         }
@@ -160,7 +179,7 @@ QWidget *MatchScreen::buildRows()
         m_places[std::size_t(row)] = place;
         grid->addWidget(place, gridRow, 0);
         for (int entry = 0; entry < 4; ++entry) {
-            auto *label = new ClickableLabel;
+            auto *label = yielding(new ClickableLabel);
             label->setObjectName(QString::fromLatin1(game::MatchEngine::rowNames()[std::size_t(row)]));
             label->setProperty("index", entry);
             label->setCursor(Qt::PointingHandCursor);
@@ -188,9 +207,9 @@ QWidget *MatchScreen::buildSide()
     const QString nameStyle = QStringLiteral("color: #ffffff; font-weight: bold;");
     const QString valueStyle = QStringLiteral("color: #ffffff; font-size: 16px;");
     QLabel *home = sideLabel("lblEquipoLoc", 1, nameStyle);
-    home->setText(m_fixture.homeName);
+    setNamed(home, m_fixture.homeName);
     QLabel *away = sideLabel("lblEquipoVis", 1, nameStyle);
-    away->setText(m_fixture.awayName);
+    setNamed(away, m_fixture.awayName);
     stats->addWidget(home, 0, 1);
     stats->addWidget(away, 0, 2);
     stats->addWidget(heading(tr("GOLES/LANZAMIENTOS")), 1, 0);
@@ -211,7 +230,7 @@ QWidget *MatchScreen::buildSide()
                                 "lblRecaudacion1", "lblVallas", "lblPorcentaje2", "lblRecaudacion2"};
     const int places[][2] = {{0, 0}, {0, 1}, {1, 0}, {1, 1}, {2, 0}, {3, 0}, {3, 1}, {4, 0}};
     for (int i = 0; i < 8; ++i) {
-        auto *label = new QLabel;
+        QLabel *label = yielding(plainLabel());
         label->setObjectName(QString::fromLatin1(gateLabels[i]));
         label->setStyleSheet(QStringLiteral("color: #f1f3f8;"));
         gateGrid->addWidget(label, places[i][0], places[i][1]);
@@ -222,6 +241,9 @@ QWidget *MatchScreen::buildSide()
     m_system->setObjectName(QStringLiteral("Combo1"));
     auto *thrower = new QComboBox;
     thrower->setObjectName(QStringLiteral("DataCombo1"));
+    // A long surname must not widen the list, nor the screen with it.
+    thrower->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    thrower->setMinimumContentsLength(10);
     auto *choices = new QGridLayout;
     choices->addWidget(heading(tr("Táctica Defensiva:")), 0, 0);
     choices->addWidget(m_system, 1, 0);
@@ -330,7 +352,7 @@ void MatchScreen::paintRows()
         m_places[std::size_t(row)]->setStyleSheet(style + QStringLiteral("font-weight: bold;"));
         for (int entry = 0; entry < 4; ++entry) {
             ClickableLabel *label = m_entries[std::size_t(row)][std::size_t(entry)];
-            label->setText(m_engine->row(row).entry(entry));
+            setNamed(label, m_engine->row(row).entry(entry));
             label->setStyleSheet(style);
         }
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "career/fixture.h"
+#include "career/week.h"
 #include "context.h"
 #include "match/engine.h"
 #include "match/gate.h"
@@ -21,6 +22,8 @@ namespace ui {
 
 // "Partido": the week's match, played on a live commentary. The user starts each half, may
 // exchange players and announce a system at any moment, and leaves with "SALIR" at full time.
+// It opens on what the week's kick-off gives it, both sides and the crowd, and it fits the
+// 1280×720 window whatever the names: a long name is cut short, never the screen widened.
 class MatchScreen : public QDialog
 {
     Q_OBJECT
@@ -28,7 +31,8 @@ class MatchScreen : public QDialog
 public:
     static constexpr int kTickMilliseconds = 100;
 
-    MatchScreen(game::Context context, const game::Fixture &fixture, QWidget *parent = nullptr);
+    MatchScreen(game::Context context, const game::Fixture &fixture, const game::Week::Kickoff &kickoff,
+                QWidget *parent = nullptr);
     ~MatchScreen() override;
 
     const game::MatchEngine &engine() const { return *m_engine; }

@@ -2,6 +2,7 @@
 
 #include "common/artwork.h"
 #include "common/gridstyle.h"
+#include "common/plainlabel.h"
 #include "common/rowsmodel.h"
 #include "common/theme.h"
 #include "match/callup.h"
@@ -24,7 +25,7 @@ const QSize kDiagramSize(200, 199);
 
 QLabel *caption(const QString &text)
 {
-    auto *label = new QLabel(text);
+    auto *label = plainLabel(text);
     label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
     return label;
 }
@@ -44,10 +45,10 @@ TacticsScreen::TacticsScreen(game::Context context, QWidget *parent) : QWidget(p
     m_attack = new QComboBox;
     m_attack->setObjectName(QStringLiteral("Combos2"));
     m_attack->addItems(game::Tactics::attacks());
-    m_defenceDiagram = new QLabel;
+    m_defenceDiagram = plainLabel();
     m_defenceDiagram->setObjectName(QStringLiteral("defensa"));
     m_defenceDiagram->setFixedSize(kDiagramSize);
-    m_attackDiagram = new QLabel;
+    m_attackDiagram = plainLabel();
     m_attackDiagram->setObjectName(QStringLiteral("ataque"));
     m_attackDiagram->setFixedSize(kDiagramSize);
     connect(m_defence, &QComboBox::activated, this, [this](int index) {

@@ -2,6 +2,7 @@
 
 #include "career/leagueclubs.h"
 #include "career/nationalities.h"
+#include "common/plainlabel.h"
 #include "common/theme.h"
 #include "transfers/youthacademy.h"
 
@@ -131,7 +132,7 @@ AddYouthScreen::AddYouthScreen(game::Context context, QWidget *parent) : QDialog
     buttons->addStretch();
     buttons->addWidget(agregar);
 
-    auto *note = new QLabel(tr("Los juveniles entran en la cantera con una media de 95, una ficha de 1000 € "
+    auto *note = plainLabel(tr("Los juveniles entran en la cantera con una media de 95, una ficha de 1000 € "
                                "y cinco años de contrato. En tu carrera podrás ficharlos desde la plantilla, "
                                "en «JUVENILES»."));
     note->setProperty("role", QStringLiteral("hint"));
