@@ -13,9 +13,9 @@ class MatchScreens : public ScreenTest
 {
 protected:
     // A new career with Valencia, every friendly declined: week 1 is the first league round.
-    void reachFirstLeagueWeek()
+    void reachFirstLeagueWeek(const QString &crest = QStringLiteral("IValencia"))
     {
-        startCareerFromMenu(QStringLiteral("IValencia"));
+        startCareerFromMenu(crest);
         for (int slot = 0; slot < 5; ++slot)
             click(QStringLiteral("cmdNoJugar"));
         click(QStringLiteral("cmdSeguir"));
@@ -42,12 +42,18 @@ protected:
     }
 
     // Week 1's league match, the first fourteen of the grid called up, played to full time.
-    void playFirstLeagueMatchToFullTime()
+    void playFirstLeagueMatchToFullTime(const QString &crest = QStringLiteral("IValencia"))
     {
-        reachFirstLeagueWeek();
+        reachFirstLeagueWeek(crest);
         click(QStringLiteral("cmdSeguir"));
         for (int place = 0; place < 14; ++place)
             placeRow(place, place);
+        playCalledUpMatch();
+    }
+
+    // From the call-up with fourteen placed, the match to full time.
+    void playCalledUpMatch()
+    {
         click(QStringLiteral("cmdJugar"));
         if (!match())
             return;
@@ -233,4 +239,72 @@ TEST_F(MatchScreens, thePickedPlayerStaysPickedToBeMovedOnWithASecondPress)
     EXPECT_EQ(m_store->text("select Pos_Partido from miequipo where idjugador = ?", playerId.toInt()),
               QStringLiteral("LATERAL IZQUIERDO"));
     EXPECT_EQ(m_store->integer("select count(*) from miequipo where idjugador <> 0"), 1);
+}
+
+// Guards: a home match played again after its result could not be written paying the gate,
+// the hoardings and the cafeterias a second time.
+TEST_F(MatchScreens, aHomeMatchPlayedAgainAfterAFailedResultPaysItsGateOnce)
+{
+    playFirstLeagueMatchToFullTime(QStringLiteral("IPortland")); // at home in the first round
+    ASSERT_NE(match(), nullptr);
+    ASSERT_TRUE(m_navigator->week().fixture()->homeId == m_navigator->week().career().club);
+    ASSERT_GT(m_store->integer("select ingresos_Taquilla from caja where semana = 1"), 0);
+    const QString ledger = dump("caja");
+
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("create trigger no_results before update on liga_asobal begin select raise(abort, 'bloqueado'); end");
+    }).ok());
+    click(QStringLiteral("cmdSalir"));
+    settle();
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("1"));
+
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("drop trigger no_results"); }).ok());
+    click(QStringLiteral("cmdSeguir"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Alinear"));
+    playCalledUpMatch();
+    ASSERT_NE(match(), nullptr);
+    EXPECT_EQ(dump("caja"), ledger);
+    click(QStringLiteral("cmdSalir"));
+    settle();
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("2"));
+    EXPECT_TRUE(dump("caja").startsWith(ledger)) << dump("caja").toStdString(); // week 1 as first paid
+}
+
+// Guards: the crowd box of a friendly away at a club abroad, which has no stadium on file,
+// showing its percentages under blank lines.
+TEST_F(MatchScreens, anAwayFriendlyAbroadShowsTheWholeCrowdBox)
+{
+    startCareerFromMenu(QStringLiteral("IValencia"));
+    click(QStringLiteral("cmdAlemania"));
+    auto *clubs = find<QListWidget>(QStringLiteral("DataList1"));
+    ASSERT_NE(clubs, nullptr);
+    ASSERT_GT(clubs->count(), 0);
+    clubs->setCurrentRow(0);
+    emit clubs->itemClicked(clubs->item(0));
+    settle();
+    for (int slot = 1; slot < 5; ++slot)
+        click(QStringLiteral("cmdNoJugar"));
+    click(QStringLiteral("cmdSeguir"));
+    ASSERT_EQ(find<QLabel>(QStringLiteral("Tipo"))->text(), QStringLiteral("AMISTOSO"));
+    const int home = m_navigator->week().fixture()->homeId;
+    ASSERT_EQ(m_store->integer("select count(*) from estadios where idequipo = ?", home), 0);
+    const QString ledger = dump("caja");
+
+    click(QStringLiteral("cmdSeguir"));
+    for (int place = 0; place < 14; ++place)
+        placeRow(place, place);
+    click(QStringLiteral("cmdJugar"));
+    ASSERT_NE(match(), nullptr);
+    auto text = [&](const char *name) { return find<QLabel>(QString::fromLatin1(name))->text(); };
+    EXPECT_EQ(text("lblEstadio"), QStringLiteral("Pabellón del equipo local"));
+    EXPECT_EQ(text("lblAforoEstadio"), QStringLiteral("AFORO: —"));
+    EXPECT_EQ(text("lblEntrada"), QStringLiteral("ENTRADA: —"));
+    // A club outside the league makes a full house of a stadium it does not have.
+    EXPECT_EQ(text("lblPorcentaje1"), QStringLiteral("100%"));
+    EXPECT_EQ(text("lblRecaudacion1"), QStringLiteral("RECAUDACIÓN: 0 €"));
+    EXPECT_EQ(text("lblVallas"), QStringLiteral("VALLAS CONTRATADAS:"));
+    EXPECT_EQ(text("lblPorcentaje2"), QStringLiteral("100%"));
+    EXPECT_EQ(dump("caja"), ledger); // away: nothing is paid to the user
+    screenshot(QStringLiteral("match_away_abroad"), match());
 }

@@ -229,8 +229,11 @@ QWidget *MatchScreen::buildSide()
     const char *gateLabels[] = {"lblEstadio", "lblAforoEstadio", "lblEntrada", "lblPorcentaje1",
                                 "lblRecaudacion1", "lblVallas", "lblPorcentaje2", "lblRecaudacion2"};
     const int places[][2] = {{0, 0}, {0, 1}, {1, 0}, {1, 1}, {2, 0}, {3, 0}, {3, 1}, {4, 0}};
+    // The stadium's lines keep these captions when the home club has no stadium on file (a
+    // club abroad), so the box never shows its percentages under blank lines.
+    const QString designCaptions[] = {tr("Pabellón del equipo local"), tr("AFORO: —"), tr("ENTRADA: —")};
     for (int i = 0; i < 8; ++i) {
-        QLabel *label = yielding(plainLabel());
+        QLabel *label = yielding(plainLabel(i < 3 ? designCaptions[i] : QString()));
         label->setObjectName(QString::fromLatin1(gateLabels[i]));
         label->setStyleSheet(QStringLiteral("color: #f1f3f8;"));
         gateGrid->addWidget(label, places[i][0], places[i][1]);
