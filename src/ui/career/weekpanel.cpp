@@ -80,6 +80,7 @@ WeekPanel::WeekPanel(game::Week &week, const ScreenExists &exists, QWidget *pare
 
     auto *play = new QPushButton(tr("SEGUIR"));
     play->setObjectName(QStringLiteral("cmdSeguir"));
+    play->setProperty("screen", QStringLiteral("Alinear"));
     play->setEnabled(m_exists(QStringLiteral("Alinear")));
     connect(play, &QPushButton::clicked, this, &WeekPanel::seguir);
     play->setMinimumHeight(44);
@@ -143,6 +144,7 @@ QPushButton *WeekPanel::addButton(const char *name, const QString &caption, cons
 {
     auto *button = new QPushButton(caption);
     button->setObjectName(QString::fromLatin1(name));
+    button->setProperty("screen", screen);
     button->setEnabled(m_exists(screen));
     connect(button, &QPushButton::clicked, this, [this, screen] { emit openRequested(screen); });
     return button;
@@ -150,6 +152,13 @@ QPushButton *WeekPanel::addButton(const char *name, const QString &caption, cons
 
 void WeekPanel::showWeek()
 {
+    // A button leads to its screen when the game has it, also one that came after the panel.
+    for (QPushButton *button : findChildren<QPushButton *>()) {
+        const QString screen = button->property("screen").toString();
+        if (!screen.isEmpty())
+            button->setEnabled(m_exists(screen));
+    }
+
     const std::optional<game::Fixture> &fixture = m_week.fixture();
     m_weekLabel->setText(m_week.isOpen() ? QString::number(m_week.number()) : QString());
     m_home->setText(fixture ? fixture->homeName : QString());

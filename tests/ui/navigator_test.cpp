@@ -1,0 +1,276 @@
+// The way between the screens as a player walks it: the panel shown again and again, its
+// buttons, the titles of the window, ten weeks in a row and a match of very long names.
+
+#include "career/weekpanel.h"
+#include "match/matchscreen.h"
+#include "screenfixture.h"
+
+#include <QListWidget>
+#include <QRegularExpression>
+#include <QTableView>
+
+#include <utility>
+
+namespace {
+
+// Every button of the panel and the screen it opens.
+const std::pair<const char *, const char *> kPanelButtons[] = {
+    {"cmdAlineacion", "Alinear"}, {"cmdSeguir", "Alinear"},     {"Command3", "Tactica"},
+    {"cmdPlantilla", "Plantilla"}, {"c", "Calendario"},          {"cmdClasificacion", "Clasificacion"},
+    {"cmdResultados", "Resultados"}, {"cmdCaja", "Caja"},        {"cmdEstadio", "estadios"},
+    {"cmdfichar", "Fichar_EnVenta"}};
+
+const QSize kWindow(1280, 720);
+
+} // namespace
+
+class NavigatorScreens : public ScreenTest
+{
+protected:
+    // A new career with Valencia, every friendly declined: every week is a league round.
+    void reachFirstLeagueWeek()
+    {
+        startCareerFromMenu(QStringLiteral("IValencia"));
+        declineFriendlies();
+    }
+
+    void declineFriendlies()
+    {
+        for (int slot = 0; slot < 5; ++slot)
+            click(QStringLiteral("cmdNoJugar"));
+        click(QStringLiteral("cmdSeguir"));
+        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+        panel()->runWeekEvents();
+    }
+
+    ui::WeekPanel *panel() { return m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager")); }
+    ui::MatchScreen *match() { return m_navigator->screen<ui::MatchScreen>(QStringLiteral("partido")); }
+    int club() { return int(m_store->integer("select idequipo from datos_jugador")); }
+
+    // The week's clock as the store keeps it: the week, the ledger and the club's budget.
+    QString clock()
+    {
+        return QStringLiteral("%1/%2/%3").arg(m_store->integer("select jornada from datos_jugador"))
+            .arg(count("caja"))
+            .arg(m_store->integer("select presupuesto from infoteams where idequipo = ?", club()));
+    }
+
+    void callUpFirstFourteen()
+    {
+        auto *grid = find<QTableView>(QStringLiteral("DataGrid1"));
+        ASSERT_GE(grid->model()->rowCount(), 14);
+        for (int place = 0; place < 14; ++place) {
+            grid->setCurrentIndex(grid->model()->index(place, 2));
+            find<QListWidget>(QStringLiteral("list1"))->setCurrentRow(place);
+            click(QStringLiteral("cmdAñadir"));
+        }
+    }
+
+    void playHalf()
+    {
+        click(QStringLiteral("cmdStart"));
+        for (int guard = 0; guard < 1000 && match()->engine().running(); ++guard)
+            match()->tick();
+        settle();
+    }
+
+    // Every label on show lies wholly inside the area of its own window.
+    static void expectLabelsInside(QWidget *screen, const QRect &area, int week)
+    {
+        int seen = 0;
+        for (QLabel *label : screen->findChildren<QLabel *>()) {
+            if (!label->isVisibleTo(screen))
+                continue;
+            ++seen;
+            const QRect shown(label->mapTo(label->window(), QPoint(0, 0)), label->size());
+            EXPECT_TRUE(area.contains(shown)) << "week " << week << ' ' << label->objectName().toStdString();
+        }
+        EXPECT_GE(seen, 6) << "week " << week; // the screen's own labels, not an empty shell
+    }
+
+    // The match stands over the window and within it, and the window has not grown.
+    void expectMatchFits(int week)
+    {
+        EXPECT_EQ(m_window->size(), kWindow) << week;
+        const QRect frame = match()->frameGeometry();
+        EXPECT_LE(frame.width(), kWindow.width()) << week;
+        EXPECT_LE(frame.height(), kWindow.height()) << week;
+        EXPECT_TRUE(m_window->frameGeometry().contains(frame)) << week << ' ' << frame.x() << ',' << frame.y();
+        expectLabelsInside(match(), match()->rect(), week);
+    }
+
+    // A title the player reads: not empty, no column name, no unfilled argument.
+    static void expectRealTitle(const QString &title)
+    {
+        EXPECT_FALSE(title.trimmed().isEmpty());
+        for (const char *word : {"nombre_jugador", "NombreEquipo", "equipo_local", "equipo_visitante", "idequipo"})
+            EXPECT_FALSE(title.contains(QString::fromLatin1(word), Qt::CaseInsensitive)) << title.toStdString();
+        EXPECT_FALSE(title.contains(QRegularExpression(QStringLiteral("%\\d|\\{\\w*\\}")))) << title.toStdString();
+    }
+};
+
+// Guards: a way back to the panel (showing it again, or leaving a report, the ledger, the
+// tactics or the call-up) that opens the week again and charges the wages a second time.
+TEST_F(NavigatorScreens, comingBackToThePanelNeverOpensTheWeekAgain)
+{
+    reachFirstLeagueWeek();
+    const QString before = clock();
+    const QString ledger = dump("caja");
+    ASSERT_EQ(before.section(QLatin1Char('/'), 0, 1), QStringLiteral("1/1"));
+
+    m_navigator->showPanel();
+    m_navigator->showPanel();
+    settle();
+    for (const char *button : {"c", "cmdCaja", "Command3", "cmdAlineacion"}) {
+        click(QString::fromLatin1(button));
+        ASSERT_NE(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager")) << button;
+        click(QStringLiteral("cmdVOLVER"));
+        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager")) << button;
+        m_navigator->showPanel();
+        settle();
+        EXPECT_EQ(clock(), before) << button;
+    }
+    EXPECT_EQ(dump("caja"), ledger);
+    EXPECT_EQ(m_navigator->week().number(), 1);
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("1"));
+}
+
+// Guards: a panel button enabled for a screen that does not exist, or left disabled once
+// the screen has been added to the game's table after the panel was made.
+TEST_F(NavigatorScreens, aPanelButtonFollowsWhetherItsScreenExistsEvenWhenAddedLater)
+{
+    reachFirstLeagueWeek();
+    QString added, addedButton;
+    for (const auto &[button, screen] : kPanelButtons) {
+        const QString name = QString::fromLatin1(screen);
+        EXPECT_EQ(find<QPushButton>(QString::fromLatin1(button))->isEnabled(), m_navigator->has(name)) << button;
+        // The standings are added if they are missing, else any screen still missing.
+        if (!m_navigator->has(name) && (added.isEmpty() || name == QStringLiteral("Clasificacion"))) {
+            added = name;
+            addedButton = QString::fromLatin1(button);
+        }
+    }
+    if (added.isEmpty())
+        GTEST_SKIP() << "every screen of the panel exists already; none is left to add";
+
+    m_navigator->add(added, app::ScreenKind{app::ScreenKind::Mode::Page, false, false,
+                                            [added](app::Navigator &) {
+                                                auto *screen = new QWidget;
+                                                screen->setObjectName(added);
+                                                return screen;
+                                            },
+                                            {}});
+    m_navigator->showPanel();
+    settle();
+    EXPECT_TRUE(find<QPushButton>(addedButton)->isEnabled()) << addedButton.toStdString();
+    click(addedButton);
+    EXPECT_EQ(m_navigator->current()->objectName(), added);
+}
+
+// Guards: a window title showing a column name or an empty argument instead of the manager,
+// his club and the week's real fixture.
+TEST_F(NavigatorScreens, theWindowTitlesNameTheManagerTheClubAndTheRealFixture)
+{
+    reachFirstLeagueWeek();
+    const game::Fixture fixture = *m_navigator->week().fixture();
+    const QString title = m_window->windowTitle();
+    for (const QString &piece : {QStringLiteral("Chema Ruiz"), m_navigator->week().career().clubName, fixture.homeName,
+                                fixture.awayName, QStringLiteral("LIGA"), QStringLiteral("Jornada 1")})
+        EXPECT_TRUE(!piece.isEmpty() && title.contains(piece)) << title.toStdString() << " lacks " << piece.toStdString();
+    EXPECT_TRUE(title.contains(game::shownDate(fixture.date))) << title.toStdString();
+    EXPECT_NE(fixture.homeName, fixture.awayName);
+    expectRealTitle(title);
+
+    click(QStringLiteral("cmdSeguir"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Alinear"));
+    expectRealTitle(m_window->windowTitle());
+    EXPECT_NE(m_window->windowTitle(), title);
+    click(QStringLiteral("cmdVOLVER"));
+    EXPECT_EQ(m_window->windowTitle(), title); // the panel's title comes back with it
+
+    click(QStringLiteral("cmdCaja"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Caja"));
+    expectRealTitle(m_window->windowTitle());
+    click(QStringLiteral("cmdVOLVER"));
+    EXPECT_EQ(m_window->windowTitle(), title);
+}
+
+// Guards: a week that does not move on in the window, a ledger row lost or doubled, the
+// call-up forgotten between weeks, or a panel or match that outgrows the 1280×720 window.
+TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowKeepTheirCountAndTheirSize)
+{
+    reachFirstLeagueWeek();
+    for (int week = 1; week <= 10; ++week) {
+        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager")) << week;
+        panel()->runWeekEvents();
+        EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QString::number(week));
+        EXPECT_TRUE(m_window->windowTitle().contains(QStringLiteral("Jornada %1").arg(week)))
+            << m_window->windowTitle().toStdString();
+        EXPECT_EQ(count("caja"), week);
+        EXPECT_EQ(m_window->size(), kWindow) << week;
+        EXPECT_TRUE(QRect(QPoint(0, 0), kWindow).contains(panel()->geometry())) << week;
+        expectLabelsInside(panel(), m_window->rect(), week);
+        if (week == 1 || week == 5 || week == 10)
+            screenshot(QStringLiteral("week_%1_panel").arg(week));
+
+        click(QStringLiteral("cmdSeguir"));
+        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Alinear")) << week;
+        // The squad once chosen stays: only the first week calls anyone up.
+        if (week == 1)
+            callUpFirstFourteen();
+        m_dialogs.clear();
+        click(QStringLiteral("cmdJugar"));
+        ASSERT_NE(match(), nullptr) << "week " << week << ": " << m_dialogs.texts().join(QLatin1Char('|')).toStdString();
+        playHalf();
+        playHalf();
+        ASSERT_TRUE(match()->engine().finished()) << week;
+        expectMatchFits(week);
+        if (week == 10)
+            screenshot(QStringLiteral("week_10_match_full_time"), match());
+        click(QStringLiteral("cmdSalir"));
+        settle();
+        EXPECT_EQ(match(), nullptr) << week;
+    }
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("11"));
+    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 11);
+    EXPECT_EQ(m_store->integer("select count(*) from liga_asobal where jornada <= 10"
+                               " and goles_equipo_local + goles_equipo_visitante > 0"),
+              80);
+}
+
+// Guards: forty-letter names of players and a very long rival club widening the match
+// screen past the window, or the window with it.
+TEST_F(NavigatorScreens, theMatchScreenFitsTheWindowWhateverTheNames)
+{
+    startCareerFromMenu(QStringLiteral("IValencia"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Pretemporada"));
+    const int user = club();
+    // The names are changed before the first week opens, which reads its fixture's names.
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update jugadores set Nombre = substr('Maximiliano' || idjugador || '"
+                         "AlejandroFernandoBartolomeoXXXXXXXXXXXXXXXXXXXXXXXX', 1, 40),"
+                         " Apellidos = substr('Fernandez' || idjugador || '"
+                         "DeLaSantisimaTrinidadYCastellanosXXXXXXXXXXXXXXXXX', 1, 40) where idequipo = ?",
+                         user);
+        m_store->execute("update equipos set NombreEquipo = 'CLUB DEPORTIVO BALONMANO DE LA MUY NOBLE, MUY"
+                         " LEAL Y SIEMPRE HEROICA CIUDAD NUMERO ' || idequipo where idequipo between 1 and 16"
+                         " and idequipo <> ?",
+                         user);
+    }).ok());
+    ASSERT_EQ(m_store->integer("select min(length(Nombre) + length(Apellidos)) from jugadores where idequipo = ?", user), 80);
+    declineFriendlies();
+    ASSERT_FALSE(HasFatalFailure());
+    const game::Fixture fixture = *m_navigator->week().fixture();
+    const QString rival = fixture.homeId == user ? fixture.awayName : fixture.homeName;
+    ASSERT_GT(rival.size(), 80) << rival.toStdString();
+
+    click(QStringLiteral("cmdSeguir"));
+    callUpFirstFourteen();
+    click(QStringLiteral("cmdJugar"));
+    ASSERT_NE(match(), nullptr);
+    playHalf();
+    expectMatchFits(1);
+    EXPECT_LE(match()->sizeHint().width(), kWindow.width());
+    EXPECT_LE(match()->minimumSizeHint().width(), kWindow.width());
+    screenshot(QStringLiteral("match_long_names"), match());
+}
