@@ -18,11 +18,6 @@ CareerRow read(GameStore &store)
     return row;
 }
 
-int week(GameStore &store)
-{
-    return static_cast<int>(store.integer("select jornada from datos_jugador"));
-}
-
 int club(GameStore &store)
 {
     return static_cast<int>(store.integer("select idequipo from datos_jugador"));

@@ -33,7 +33,6 @@ namespace Career {
 
 // The career row. They throw on a store failure, for use inside a routine.
 CareerRow read(GameStore &store);
-int week(GameStore &store);
 int club(GameStore &store);
 
 // The same for a screen or a step that may fail without stopping anything: an empty row

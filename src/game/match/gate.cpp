@@ -140,13 +140,6 @@ bool Gate::post(const Report &report)
     return true;
 }
 
-Gate::Report Gate::settle(const Fixture &fixture)
-{
-    const Report report = draw(fixture);
-    post(report);
-    return report;
-}
-
 QString Gate::Report::capacityText() const
 {
     return QStringLiteral("AFORO: %1 Espectadores").arg(capacity);

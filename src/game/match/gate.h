@@ -13,7 +13,8 @@ namespace game {
 // ledger: tickets and hoardings, and twice the crowd when the club has cafeterias. The
 // prices are always the user's, also in the rival's stadium.
 //
-//   const Gate::Report gate = Gate(context).settle(fixture);
+//   const Gate::Report gate = Gate(context).draw(fixture);
+//   Gate(context).post(gate);
 //   label->setText(gate.attendanceText());
 class Gate
 {
@@ -52,8 +53,6 @@ public:
     // transaction. False when that failed (the player has been told and nothing was written);
     // true also when there was nothing to post.
     bool post(const Report &report);
-    // Both at once, as a match that opens settles its gate.
-    Report settle(const Fixture &fixture);
 
 private:
     Context m_context;

@@ -77,7 +77,14 @@ protected:
         return fixture;
     }
 
-    Gate::Report settle(int home, int away) { return Gate(*m_context).settle(match(home, away)); }
+    // The crowd drawn and, at a home match of the user's, paid, as a match opens.
+    Gate::Report settle(int home, int away)
+    {
+        Gate gate(*m_context);
+        const Gate::Report report = gate.draw(match(home, away));
+        gate.post(report);
+        return report;
+    }
 
     Ledger::Row week1() { return *Ledger(*m_store).row(1); }
 
