@@ -1,20 +1,19 @@
 #pragma once
 
-#include <QLabel>
+#include "elidedlabel.h"
+
 #include <QMouseEvent>
 
 // A label that answers a press, for the rows of the match screen. Its text is shown as it
-// is, never read as markup: the rows carry players' names.
-class ClickableLabel : public QLabel
+// is, never read as markup, and cut with "…" when it does not fit: the rows carry players'
+// names.
+class ClickableLabel : public ui::ElidedLabel
 {
     Q_OBJECT
 
 public:
     explicit ClickableLabel(QWidget *parent = nullptr) : ClickableLabel(QString(), parent) {}
-    explicit ClickableLabel(const QString &text, QWidget *parent = nullptr) : QLabel(text, parent)
-    {
-        setTextFormat(Qt::PlainText);
-    }
+    explicit ClickableLabel(const QString &text, QWidget *parent = nullptr) : ui::ElidedLabel(text, parent) {}
 
 signals:
     void pressed();

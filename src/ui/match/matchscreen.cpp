@@ -32,17 +32,8 @@ QLabel *heading(const QString &text)
     return label;
 }
 
-// A label whose text comes from the store (a club, a player, a stadium) takes the room the
-// layout gives it and no more, so a long name never widens the screen; the whole name is in
-// its tooltip.
-template<typename Label>
-Label *yielding(Label *label)
-{
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    label->setMinimumWidth(0);
-    return label;
-}
-
+// A name from the store (a club, a player) is cut with "…" where the layout has no room for
+// it (see ElidedLabel); the whole name is in its tooltip.
 void setNamed(QLabel *label, const QString &text)
 {
     label->setText(text);
@@ -52,7 +43,9 @@ void setNamed(QLabel *label, const QString &text)
 // Two-entry widgets: entry 0 the home club's, entry 1 the away club's.
 QLabel *sideLabel(const char *name, int side, const QString &style)
 {
-    QLabel *label = yielding(indexed::label(name, side));
+    QLabel *label = new ElidedLabel;
+    label->setObjectName(QString::fromLatin1(name));
+    label->setProperty("index", side);
     label->setAlignment(Qt::AlignCenter);
     label->setStyleSheet(style);
     return label;
@@ -173,13 +166,14 @@ QWidget *MatchScreen::buildRows()
             grid->addWidget(section, gridRow++, 0, 1, 5);
         }
         auto *place = new ClickableLabel(game::MatchEngine::placeCaption(row));
+        place->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred); // the captions always fit
         place->setObjectName(QStringLiteral("lblPosicion"));
         place->setProperty("index", row);
         connect(place, &ClickableLabel::pressed, this, [this, row] { pickRow(row); });
         m_places[std::size_t(row)] = place;
         grid->addWidget(place, gridRow, 0);
         for (int entry = 0; entry < 4; ++entry) {
-            auto *label = yielding(new ClickableLabel);
+            auto *label = new ClickableLabel;
             label->setObjectName(QString::fromLatin1(game::MatchEngine::rowNames()[std::size_t(row)]));
             label->setProperty("index", entry);
             label->setCursor(Qt::PointingHandCursor);
@@ -233,7 +227,7 @@ QWidget *MatchScreen::buildSide()
     // club abroad), so the box never shows its percentages under blank lines.
     const QString designCaptions[] = {tr("Pabellón del equipo local"), tr("AFORO: —"), tr("ENTRADA: —")};
     for (int i = 0; i < 8; ++i) {
-        QLabel *label = yielding(plainLabel(i < 3 ? designCaptions[i] : QString()));
+        QLabel *label = new ElidedLabel(i < 3 ? designCaptions[i] : QString());
         label->setObjectName(QString::fromLatin1(gateLabels[i]));
         label->setStyleSheet(QStringLiteral("color: #f1f3f8;"));
         gateGrid->addWidget(label, places[i][0], places[i][1]);
