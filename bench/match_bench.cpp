@@ -76,6 +76,59 @@ double replayMillis(const QString &pristine, const std::vector<game::GameStore::
     return millis;
 }
 
+struct SeasonFigures
+{
+    double median = 0;
+    double best = 0;
+    double replay = 0;
+    quint64 statements = 0;
+};
+
+// Ten whole seasons of one policy, each played twice: once timed, once traced for the replay.
+SeasonFigures playSeasons(const QString &pristine, game::AutoSeason::Policy policy)
+{
+    std::vector<double> walls;
+    std::vector<double> replays;
+    SeasonFigures figures;
+    for (int run = 0; run < 10; ++run) {
+        const game::AutoSeason::Options options{1 + run % 16, 5, policy};
+        QTemporaryDir folder;
+        game::GameStore store(folder.filePath(QStringLiteral("balonmano.mdb")), pristine);
+        (void)store.open();
+        SilentDialogs dialogs;
+        game::SystemRandom chance{static_cast<std::uint64_t>(run)};
+        game::Context context{store, chance, dialogs};
+        game::AutoSeason season(context, options);
+        const quint64 before = store.statementsRun();
+        const auto begun = Clock::now();
+        season.begin();
+        while (season.playWeek()) {
+        }
+        walls.push_back(seconds(Clock::now() - begun) * 1e3);
+        figures.statements = store.statementsRun() - before;
+
+        // The same season once more, recording its statements for the replay.
+        QTemporaryDir again;
+        game::GameStore traced(again.filePath(QStringLiteral("balonmano.mdb")), pristine);
+        (void)traced.open();
+        std::vector<game::GameStore::TracedStatement> trace;
+        traced.setTrace(&trace);
+        game::SystemRandom sameChance{static_cast<std::uint64_t>(run)};
+        game::Context tracedContext{traced, sameChance, dialogs};
+        game::AutoSeason tracedSeason(tracedContext, options);
+        tracedSeason.begin();
+        while (tracedSeason.playWeek()) {
+        }
+        replays.push_back(replayMillis(pristine, trace));
+    }
+    std::sort(walls.begin(), walls.end());
+    std::sort(replays.begin(), replays.end());
+    figures.median = walls[walls.size() / 2];
+    figures.best = walls.front();
+    figures.replay = replays[replays.size() / 2];
+    return figures;
+}
+
 } // namespace
 
 int main()
@@ -98,49 +151,19 @@ int main()
     std::printf("engine: %d matches, %ld actions in %.3f s: %.2f million actions per second\n", kMatches, actions,
                 engineSeconds, double(actions) / engineSeconds / 1e6);
 
-    // Whole seasons through the game library, as the headless simulator plays them.
+    // Whole seasons through the game library, as the headless simulator plays them: a quiet
+    // manager's, and a busy one's with works, prices and broadcasts.
     const QString pristine = QStringLiteral(ZARPAZO_PRISTINE);
-    std::vector<double> walls;
-    std::vector<double> replays;
-    quint64 statements = 0;
-    for (int run = 0; run < 10; ++run) {
-        QTemporaryDir folder;
-        game::GameStore store(folder.filePath(QStringLiteral("balonmano.mdb")), pristine);
-        (void)store.open();
-        SilentDialogs dialogs;
-        game::SystemRandom chance{static_cast<std::uint64_t>(run)};
-        game::Context context{store, chance, dialogs};
-        game::AutoSeason season(context, {1 + run % 16, 5});
-        const quint64 before = store.statementsRun();
-        const auto begun = Clock::now();
-        season.begin();
-        while (season.playWeek()) {
-        }
-        walls.push_back(seconds(Clock::now() - begun) * 1e3);
-        statements = store.statementsRun() - before;
-
-        // The same season once more, recording its statements for the replay.
-        QTemporaryDir again;
-        game::GameStore traced(again.filePath(QStringLiteral("balonmano.mdb")), pristine);
-        (void)traced.open();
-        std::vector<game::GameStore::TracedStatement> trace;
-        traced.setTrace(&trace);
-        game::SystemRandom sameChance{static_cast<std::uint64_t>(run)};
-        game::Context tracedContext{traced, sameChance, dialogs};
-        game::AutoSeason tracedSeason(tracedContext, {1 + run % 16, 5});
-        tracedSeason.begin();
-        while (tracedSeason.playWeek()) {
-        }
-        replays.push_back(replayMillis(pristine, trace));
+    for (const game::AutoSeason::Policy policy : {game::AutoSeason::Policy::Quiet, game::AutoSeason::Policy::Busy}) {
+        const char *name = policy == game::AutoSeason::Policy::Busy ? "busy season" : "season";
+        const SeasonFigures figures = playSeasons(pristine, policy);
+        std::printf("%s: 35 weeks, median %.1f ms (best %.1f ms) for %llu statements: %.2f us each\n", name,
+                    figures.median, figures.best, static_cast<unsigned long long>(figures.statements),
+                    figures.median * 1e3 / double(figures.statements));
+        std::printf("the same statements replayed on raw SQLite (reused, one transaction): median %.1f ms, %.2f us each;"
+                    " the %s costs %.1f times that\n",
+                    figures.replay, figures.replay * 1e3 / double(figures.statements), name,
+                    figures.median / figures.replay);
     }
-    std::sort(walls.begin(), walls.end());
-    std::sort(replays.begin(), replays.end());
-    const double median = walls[walls.size() / 2];
-    const double replay = replays[replays.size() / 2];
-    std::printf("season: 35 weeks, median %.1f ms (best %.1f ms) for %llu statements: %.2f us each\n", median,
-                walls.front(), static_cast<unsigned long long>(statements), median * 1e3 / double(statements));
-    std::printf("the same statements replayed on raw SQLite (reused, one transaction): median %.1f ms, %.2f us each;"
-                " the season costs %.1f times that\n",
-                replay, replay * 1e3 / double(statements), median / replay);
     return 0;
 }

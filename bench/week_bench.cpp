@@ -1,4 +1,5 @@
-// How long the store work of a week takes: opening a week (without message boxes), and
+// How long the store work of a week takes: opening a week (without message boxes), opening
+// it and running its events (the rival's seven, works that end, the shop, television), and
 // building the season's calendar with the market draws.
 
 #include "career/newcareer.h"
@@ -6,6 +7,7 @@
 #include "career/week.h"
 #include "benchsupport.h"
 #include "random.h"
+#include "stadium/works.h"
 #include "store/gamestore.h"
 
 #include <QTemporaryDir>
@@ -73,7 +75,57 @@ int main()
             store.execute("delete from pretemporada");
         });
     }
+
+    // The same weeks with their events, the stadium kept busy: whenever a group has no work
+    // under way its first work on offer is ordered, outside the timing, so works end all
+    // season long.
+    std::vector<double> eventful;
+    for (int season = 0; season < 20; ++season) {
+        game::Preseason planner(context);
+        planner.begin();
+        const QStringList rivals = planner.clubsOf(2);
+        for (int slot = 0; slot < 5; ++slot)
+            planner.choose(rivals.at(slot % rivals.size()));
+        planner.proceed();
+        (void)store.run([&] {
+            store.execute("update estadios set focos = 0, marcadores = 1, accesos = 1, enfermeria = 0, lavabos = 1,"
+                          " tienda = 0, calefaccion = 0, parking = 0, min_gradas = 5000 where idequipo = 1");
+        });
+
+        game::Week week(context);
+        for (int number = 0; number < 35; ++number) {
+            const auto begun = Clock::now();
+            week.open();
+            week.runEvents();
+            if (week.broadcast())
+                week.acceptBroadcast();
+            eventful.push_back(micros(Clock::now() - begun));
+
+            game::Works works(context);
+            const game::Works::Screen screen = works.screen();
+            QStringList boxes;
+            QList<game::Works::Group> taken;
+            for (const game::Works::UnderWay &work : screen.underWay) {
+                if (const auto group = game::Works::groupOfKey(work.key))
+                    taken << *group;
+            }
+            for (const game::Works::Order &order : game::Works::catalogue()) {
+                if (!taken.contains(order.group) && screen.enabledBoxes.contains(QLatin1String(order.box))) {
+                    taken << order.group;
+                    boxes << QLatin1String(order.box);
+                }
+            }
+            works.order(boxes);
+        }
+        (void)store.run([&] {
+            store.execute("delete from calendario");
+            store.execute("delete from caja");
+            store.execute("delete from pretemporada");
+            store.execute("delete from selects");
+        });
+    }
     report("week opening", openings);
+    report("week opening with its events", eventful);
     report("calendar and 76 market draws", planning);
     return 0;
 }

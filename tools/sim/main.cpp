@@ -2,6 +2,10 @@
 // call, and prints one JSON line with what happened.
 //
 //   zarpazo-sim --data-dir DIR [--seed S] [--club ID] [--friendlies K] [--weeks N]
+//               [--policy quiet|busy]
+//
+// A quiet manager only plays; a busy one also orders stadium works, raises the ticket price
+// before home matches and takes every broadcast.
 //
 // DIR/balonmano.mdb is restored from the pristine copy first and left there for inspection.
 
@@ -64,7 +68,10 @@ int main(int argc, char *argv[])
     const QCommandLineOption pristine(QStringLiteral("pristine"), QStringLiteral("The pristine database."),
                                       QStringLiteral("FILE"),
                                       QCoreApplication::applicationDirPath() + QStringLiteral("/balonmanoX.mdb"));
-    parser.addOptions({dataDir, seed, club, friendlies, weeks, pristine});
+    const QCommandLineOption policy(QStringLiteral("policy"),
+                                    QStringLiteral("How the club is run: quiet (only the matches) or busy."),
+                                    QStringLiteral("quiet|busy"), QStringLiteral("quiet"));
+    parser.addOptions({dataDir, seed, club, friendlies, weeks, pristine, policy});
     parser.process(app);
     if (!parser.isSet(dataDir))
         return fail(QStringLiteral("--data-dir is required"));
@@ -75,6 +82,11 @@ int main(int argc, char *argv[])
         return fail(QStringLiteral("--club must be 1 to 16"));
     if (friendlyCount < 0 || friendlyCount > 5)
         return fail(QStringLiteral("--friendlies must be 0 to 5"));
+    game::AutoSeason::Policy chosenPolicy = game::AutoSeason::Policy::Quiet;
+    if (parser.value(policy) == QLatin1String("busy"))
+        chosenPolicy = game::AutoSeason::Policy::Busy;
+    else if (parser.value(policy) != QLatin1String("quiet"))
+        return fail(QStringLiteral("--policy must be quiet or busy, not \"%1\"").arg(parser.value(policy)));
 
     QElapsedTimer clock;
     clock.start();
@@ -91,7 +103,7 @@ int main(int argc, char *argv[])
     AutomaticDialogs dialogs;
     game::Context context{store, *random, dialogs};
 
-    game::AutoSeason season(context, {clubId, friendlyCount});
+    game::AutoSeason season(context, {clubId, friendlyCount, chosenPolicy});
     if (!season.begin())
         return fail(season.failure());
     while ((weekLimit == 0 || season.totals().weeks < weekLimit) && season.playWeek()) {
@@ -105,6 +117,11 @@ int main(int argc, char *argv[])
         {QStringLiteral("matches"), totals.matches},
         {QStringLiteral("goals_for"), totals.goalsFor},
         {QStringLiteral("goals_against"), totals.goalsAgainst},
+        {QStringLiteral("works_ordered"), totals.worksOrdered},
+        {QStringLiteral("works_finished"), totals.worksFinished},
+        {QStringLiteral("tv_income"), double(totals.tvIncome)},
+        {QStringLiteral("shop_income"), double(totals.shopIncome)},
+        {QStringLiteral("gate_income"), double(totals.gateIncome)},
         {QStringLiteral("budget"), double(game::Ledger(store).budget(clubId))},
         {QStringLiteral("statements"), double(store.statementsRun())},
         {QStringLiteral("messages"), dialogs.told},

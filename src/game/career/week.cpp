@@ -4,12 +4,20 @@
 #include "match/matchday.h"
 #include "match/results.h"
 #include "stadium/ledger.h"
+#include "stadium/television.h"
+#include "stadium/works.h"
 #include "store/gamestore.h"
 
 namespace game {
 
 Week::Week(Context context) : Week(context, WeekEvents::standard(context))
 {
+    // The stadium and the television report to this week: the works that ended and the
+    // channel waiting for the player's OK.
+    m_events.set(WeekEvents::Step::Stadium,
+                 [this](const std::optional<Fixture> &) { m_worksFinished = Works(m_context).runWeek(); });
+    m_events.set(WeekEvents::Step::Television,
+                 [this](const std::optional<Fixture> &fixture) { m_broadcast = Television(m_context).run(fixture); });
 }
 
 Week::Week(Context context, WeekEvents events) : m_context(context), m_events(std::move(events))
@@ -57,6 +65,8 @@ void Week::close()
     m_gate.reset();
     m_gatePosted = false;
     m_played = false;
+    m_broadcast.reset();
+    m_worksFinished = 0;
 }
 
 void Week::runEvents()
@@ -94,6 +104,16 @@ bool Week::recordResult(int homeGoals, int awayGoals)
     if (!Results(m_context).record(*m_fixture, homeGoals, awayGoals))
         return false;
     m_played = true;
+    return true;
+}
+
+bool Week::acceptBroadcast()
+{
+    if (!m_broadcast)
+        return false;
+    if (!Television(m_context).bookFee(m_number))
+        return false; // told; the broadcast waits for another OK
+    m_broadcast.reset();
     return true;
 }
 

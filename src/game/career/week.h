@@ -40,8 +40,15 @@ public:
         Gate::Report gate;
     };
 
+    // The week of the game: the standard events, with the stadium and the television
+    // reporting back to this week.
     explicit Week(Context context);
+    // A week with the given events as they are (tests, benchmarks).
     Week(Context context, WeekEvents events);
+    // The week's events may report back to it (the broadcast, the works), so it stays where
+    // it was made.
+    Week(const Week &) = delete;
+    Week &operator=(const Week &) = delete;
 
     // Opens the next week of the career. When the week is the one after the calendar's last,
     // the season is over: nothing is charged and there is no match. False when the store
@@ -74,6 +81,17 @@ public:
     bool recordResult(int homeGoals, int awayGoals);
     bool played() const { return m_played; }
 
+    // The channel that bought this week's match, from the week's events until the player
+    // acknowledges it; nothing in a week that was not bought or once it is acknowledged.
+    const std::optional<QString> &broadcast() const { return m_broadcast; }
+    // The player's OK on the broadcast: the fee is booked in the week's row, once. False
+    // when there is no broadcast waiting or the store failed (the player has been told; the
+    // broadcast stays, to be acknowledged again).
+    bool acceptBroadcast();
+
+    // What the week's stadium event did: the works that ended this week.
+    int worksFinished() const { return m_worksFinished; }
+
 private:
     Context m_context;
     WeekEvents m_events;
@@ -85,6 +103,8 @@ private:
     std::optional<Gate::Report> m_gate;
     bool m_gatePosted = false;
     bool m_played = false;
+    std::optional<QString> m_broadcast;
+    int m_worksFinished = 0;
 };
 
 } // namespace game

@@ -31,23 +31,6 @@ std::optional<int> firstInteger(GameStore &store, const std::string &sql, int ke
     return value;
 }
 
-// A big match fills the house: both clubs of the same class, or next to each other in the
-// table. A club that has no class or no place (a club from abroad in a friendly) cannot be
-// compared, and that counts as a big match too.
-bool isBigMatch(GameStore &store, int home, int away)
-{
-    const char *classOf = "select categoria from equipos where idequipo = ?";
-    const std::optional<int> homeClass = firstInteger(store, classOf, home);
-    const std::optional<int> awayClass = firstInteger(store, classOf, away);
-    if (!homeClass || !awayClass || *homeClass == *awayClass)
-        return true;
-
-    const char *placeOf = "select puesto_actual from asobal where teams = ?";
-    const std::optional<int> homePlace = firstInteger(store, placeOf, home);
-    const std::optional<int> awayPlace = firstInteger(store, placeOf, away);
-    return !homePlace || !awayPlace || std::abs(*homePlace - *awayPlace) == 1;
-}
-
 // Uniform from 1500 to the capacity: a draw below 1500 is thrown away and drawn again. A
 // hall that holds fewer than 1500 fills up without a draw.
 int ordinaryCrowd(Random &random, int capacity)
@@ -77,6 +60,20 @@ int percentOf(qint64 part, qint64 whole)
 }
 
 } // namespace
+
+bool isBigMatch(GameStore &store, int homeClub, int awayClub)
+{
+    const char *classOf = "select categoria from equipos where idequipo = ?";
+    const std::optional<int> homeClass = firstInteger(store, classOf, homeClub);
+    const std::optional<int> awayClass = firstInteger(store, classOf, awayClub);
+    if (!homeClass || !awayClass || *homeClass == *awayClass)
+        return true;
+
+    const char *placeOf = "select puesto_actual from asobal where teams = ?";
+    const std::optional<int> homePlace = firstInteger(store, placeOf, homeClub);
+    const std::optional<int> awayPlace = firstInteger(store, placeOf, awayClub);
+    return !homePlace || !awayPlace || std::abs(*homePlace - *awayPlace) == 1;
+}
 
 Gate::Report Gate::draw(const Fixture &fixture)
 {

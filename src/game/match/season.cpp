@@ -5,7 +5,12 @@
 #include "career/preseason.h"
 #include "match/callup.h"
 #include "random.h"
+#include "stadium/ledger.h"
+#include "stadium/prices.h"
+#include "stadium/works.h"
 #include "store/gamestore.h"
+
+#include <QSet>
 
 namespace game {
 
@@ -57,6 +62,14 @@ bool AutoSeason::playWeekBody()
         return false;
     ++m_totals.weeks;
     m_week.runEvents();
+    m_totals.worksFinished += m_week.worksFinished();
+    Ledger ledger(m_context.store);
+    // Before the match the shop is the only income of its column; the cafeterias come with
+    // the crowd.
+    if (const std::optional<Ledger::Row> row = ledger.row(m_week.number()))
+        m_totals.shopIncome += row->tiendas;
+    if (m_options.policy == Policy::Busy)
+        actBusy();
     if (!m_week.fixture())
         return true;
 
@@ -71,6 +84,8 @@ bool AutoSeason::playWeekBody()
         m_failure = QStringLiteral("the match could not start");
         return false;
     }
+    if (const std::optional<Ledger::Row> row = ledger.row(m_week.number()))
+        m_totals.gateIncome += row->taquilla + row->publicidad;
     MatchEngine engine(m_context.random, kickoff->setup);
     for (int half = 0; half < 2; ++half) {
         engine.start();
@@ -85,6 +100,46 @@ bool AutoSeason::playWeekBody()
     m_totals.goalsFor += engine.score(engine.userSide());
     m_totals.goalsAgainst += engine.score(engine.rivalSide());
     return true;
+}
+
+void AutoSeason::actBusy()
+{
+    if (m_week.broadcast() && m_week.acceptBroadcast())
+        m_totals.tvIncome += Ledger::kTelevisionFee;
+    orderCheapestWorks();
+    if (Prices::homeWeek(m_week.fixture(), m_week.career())) {
+        Prices prices(m_context);
+        if (prices.ticket() < Prices::kTicketHighest)
+            prices.raiseTicket();
+    }
+}
+
+void AutoSeason::orderCheapestWorks()
+{
+    Works works(m_context);
+    const Works::Screen screen = works.screen();
+    QSet<int> busyGroups;
+    for (const Works::UnderWay &work : screen.underWay) {
+        if (const std::optional<Works::Group> group = Works::groupOfKey(work.key))
+            busyGroups.insert(static_cast<int>(*group));
+    }
+    QStringList boxes;
+    for (const Works::Group group :
+         {Works::Group::Seats, Works::Group::Parking, Works::Group::Equipment, Works::Group::Services}) {
+        if (busyGroups.contains(static_cast<int>(group)))
+            continue;
+        // The cheapest work of the group on offer; among equal prices the first the screen lists.
+        const Works::Order *cheapest = nullptr;
+        for (const Works::Order &order : Works::catalogue()) {
+            if (order.group == group && screen.enabledBoxes.contains(QLatin1String(order.box))
+                && (!cheapest || order.cost < cheapest->cost))
+                cheapest = &order;
+        }
+        if (cheapest)
+            boxes << QLatin1String(cheapest->box);
+    }
+    if (!boxes.isEmpty())
+        m_totals.worksOrdered += works.order(boxes);
 }
 
 } // namespace game

@@ -13,16 +13,24 @@ namespace game {
 // headless simulator and the benchmarks use it. Every question is answered No, every
 // message acknowledged.
 //
-//   AutoSeason season(context, {.club = 4, .friendlies = 2});
+// A quiet manager only plays his matches. A busy one also runs the club the way an eager
+// player would: whenever a group of the stadium has no work under way he orders its cheapest
+// work on offer, before each home match he puts the ticket up a step until it reaches the
+// top, and he takes every broadcast television offers.
+//
+//   AutoSeason season(context, {.club = 4, .friendlies = 2, .policy = AutoSeason::Policy::Busy});
 //   season.begin();
 //   while (season.playWeek()) {}
 class AutoSeason
 {
 public:
+    enum class Policy { Quiet, Busy };
+
     struct Options
     {
         int club = 1;
         int friendlies = 0;
+        Policy policy = Policy::Quiet;
     };
 
     struct Totals
@@ -31,6 +39,11 @@ public:
         int matches = 0;
         int goalsFor = 0;
         int goalsAgainst = 0;
+        int worksOrdered = 0;
+        int worksFinished = 0;
+        qint64 tvIncome = 0;   // broadcast fees booked
+        qint64 shopIncome = 0; // the club shop's weekly takings
+        qint64 gateIncome = 0; // tickets and boards of the user's home matches
     };
 
     AutoSeason(Context context, Options options) : m_context(context), m_options(options), m_week(context) {}
@@ -49,6 +62,9 @@ public:
 
 private:
     bool playWeekBody();
+    // What a busy manager does once the week's events have run, before the match.
+    void actBusy();
+    void orderCheapestWorks();
 
     Context m_context;
     Options m_options;

@@ -3,6 +3,7 @@
 #include "career/weekevents.h"
 #include "careerfixture.h"
 #include "stadium/ledger.h"
+#include "stadium/works.h"
 
 using game::Week;
 
@@ -274,4 +275,75 @@ TEST(WeekEventsOrder, runsTheFiveStepsOnceInTheirFixedOrder)
     events.set(Step::Offers, [&](const auto &) { ran << QStringLiteral("Fichajes"); });
     events.run(std::nullopt);
     EXPECT_EQ(ran.join(QLatin1Char(' ')), QStringLiteral("equipo Fichajes ficharte tv"));
+}
+
+// Guards: the fee booked by the week's events alone, booked twice by a second OK, or a
+// broadcast carried into the next week.
+TEST_F(WeekTest, theBroadcastFeeIsBookedOnceAndOnlyByThePlayersOk)
+{
+    planSeason(0);
+    // The first opponent is made the user's neighbour in the table: television buys.
+    const auto first = game::fixtureOfWeek(*m_store, 1, kClub);
+    ASSERT_TRUE(first.has_value());
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update equipos set categoria = idequipo where idequipo in (?, ?)", kClub, first->rivalId);
+        m_store->execute("update asobal set puesto_actual = 7 where teams = ?", kClub);
+        m_store->execute("update asobal set puesto_actual = 8 where teams = ?", first->rivalId);
+    }).ok());
+
+    Week week(*m_context);
+    EXPECT_FALSE(week.acceptBroadcast()); // no week open, nothing waiting
+    ASSERT_TRUE(week.open());
+    week.runEvents();
+    ASSERT_TRUE(week.broadcast().has_value());
+    EXPECT_FALSE(week.broadcast()->isEmpty());
+    EXPECT_EQ(game::Ledger(*m_store).row(1)->television, 0);
+
+    EXPECT_TRUE(week.acceptBroadcast());
+    EXPECT_FALSE(week.broadcast().has_value());
+    EXPECT_FALSE(week.acceptBroadcast());
+    const game::Ledger::Row row = *game::Ledger(*m_store).row(1);
+    EXPECT_EQ(row.television, 450000);
+    EXPECT_EQ(row.ingresos - row.tiendas, 450000);
+
+    // The next week starts with no broadcast waiting, whatever its own events decide.
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("update equipos set categoria = 1"); }).ok());
+    ASSERT_TRUE(week.open());
+    EXPECT_FALSE(week.broadcast().has_value());
+    EXPECT_FALSE(week.acceptBroadcast());
+    week.runEvents();
+    ASSERT_TRUE(week.broadcast().has_value());
+    ASSERT_TRUE(week.open());
+    EXPECT_FALSE(week.broadcast().has_value());
+    EXPECT_EQ(game::Ledger(*m_store).row(2)->television, 0);
+}
+
+// Guards: the loading message skipped in a week that has no match, or the stadium's works
+// and shop not run by the week's standard events.
+TEST_F(WeekTest, theStandardEventsTellTheLoadingMessageEveryWeekAndEndTheWorks)
+{
+    planSeason(0);
+    // Week 2 loses its match.
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("delete from calendario where semana = 2");
+        m_store->execute("update estadios set tienda = 1, enfermeria = 0 where idequipo = ?", kClub);
+    }).ok());
+    Week week(*m_context);
+    ASSERT_TRUE(week.open());
+    ASSERT_EQ(game::Works(*m_context).order({QStringLiteral("Option17")}), 1); // ends in week 5
+    m_dialogs.clear();
+    const QString loading = QStringLiteral("Cargando... Pulse Aceptar para continuar");
+    for (int number = 2; number <= 5; ++number) {
+        ASSERT_TRUE(week.open());
+        EXPECT_EQ(week.fixture().has_value(), number != 2);
+        week.runEvents();
+        EXPECT_EQ(week.worksFinished(), number == 5 ? 1 : 0) << number;
+        EXPECT_EQ(m_dialogs.texts().last(), loading) << number;
+        EXPECT_EQ(game::Ledger(*m_store).row(number)->tiendas, 1000) << number;
+    }
+    EXPECT_EQ(m_dialogs.texts().count(loading), 4);
+    EXPECT_TRUE(m_dialogs.texts().contains(QStringLiteral("Las Obras de La mejora de las ENFERMERIA Han Terminado")));
+    EXPECT_EQ(game::Ledger(*m_store).row(5)->remodelaciones, 60000);
+    ASSERT_TRUE(week.open());
+    EXPECT_EQ(week.worksFinished(), 0);
 }

@@ -28,5 +28,67 @@ TEST_F(StoreTest, aWholeSeasonPlaysToTheEndAndTheTableAddsUp)
                                " from liga_asobal f join asobal h on h.puesto_anterior = f.pos_equipo_local"
                                " join asobal a on a.puesto_anterior = f.pos_equipo_visitante where 9 in (h.teams, a.teams)"));
     EXPECT_EQ(count("caja"), 33);
-    EXPECT_EQ(m_dialogs.messages().size(), 0u);
+    // A quiet manager hears only the television's weekly word, and touches nothing else.
+    EXPECT_EQ(m_dialogs.texts(), QStringList(33, QStringLiteral("Cargando... Pulse Aceptar para continuar")));
+    EXPECT_EQ(season.totals().worksOrdered, 0);
+    EXPECT_EQ(season.totals().tvIncome, 0);
+    EXPECT_EQ(count("selects"), 0);
+    EXPECT_EQ(m_store->integer("select sum(ingresos_TV) + sum(Gastos_Remodelaciones) from caja"), 0);
+    EXPECT_EQ(m_store->integer("select precio_entrada from entradas where idPrecio = 1"), 10);
+}
+
+// Guards: a season in which works, broadcasts, the shop and the gate do not add up in the
+// ledger week after week: an income that reaches the budget, a work charged twice or never,
+// a fee booked without the OK, or the busy manager's choices not the cheapest on offer.
+TEST_F(StoreTest, aBusySeasonEndsWorksAndKeepsTheLedgerConsistent)
+{
+    m_random = ScriptedRandom(13);
+    // Club 13 lacks a lot: parking, a shop, heating; small levels elsewhere; 3100 seats.
+    game::AutoSeason season(*m_context, {13, 3, game::AutoSeason::Policy::Busy});
+    ASSERT_TRUE(season.begin());
+    ASSERT_TRUE(season.playWeek());
+    // The cheapest work on offer in each of the four groups (among equals the first listed).
+    QStringList ordered;
+    game::GameStore::Query orders = m_store->query("select observaciones from selects order by rowid");
+    while (orders.next())
+        ordered << orders.text(0);
+    EXPECT_EQ(ordered, (QStringList{QStringLiteral("gradas 1000 1000000 12"), QStringLiteral("parking 0 3500000 30"),
+                                    QStringLiteral("focos 2 120000 6"), QStringLiteral("enfermeria 1 60000 4")}));
+
+    int weeks = 1;
+    while (season.playWeek())
+        ASSERT_LT(++weeks, 40);
+    ASSERT_TRUE(season.failure().isEmpty()) << season.failure().toStdString();
+    const game::AutoSeason::Totals &totals = season.totals();
+    EXPECT_EQ(totals.weeks, 33);
+    EXPECT_GT(totals.worksFinished, 0);
+    EXPECT_EQ(count("selects"), totals.worksOrdered - totals.worksFinished);
+    EXPECT_GT(m_store->integer("select sum(Gastos_Remodelaciones) from caja"), 0);
+    EXPECT_EQ(m_store->integer("select tienda from estadios where idequipo = 13"), 1);
+    EXPECT_EQ(m_store->integer("select parking from estadios where idequipo = 13"), 1); // weeks 1 to 31
+
+    // Each row adds up, and every week opens from the budget the week before left: no income
+    // and no finished work ever reaches it.
+    EXPECT_EQ(count("caja where Ingresos <> ingresos_Taquilla + ingresos_publi + ingresos_TV + Ingresos_Venta_Jugador"
+                    " + Ingresos_Tienda"),
+              0);
+    EXPECT_EQ(count("caja where Gastos <> Gastos_Fichajes + Gastos_Despido + Gastos_Fichas + Gastos_Hospitales"
+                    " + Gastos_Empleados + Gastos_Remodelaciones"),
+              0);
+    EXPECT_EQ(count("caja a join caja b on b.semana = a.semana + 1"
+                    " where b.Caja - b.Ingresos + b.Gastos <> a.Caja - a.Ingresos + a.Gastos - a.Gastos_Fichas - a.Gastos_Empleados"),
+              0);
+    EXPECT_EQ(m_store->integer("select presupuesto from infoteams where idequipo = 13"),
+              m_store->integer("select Caja - Ingresos + Gastos - Gastos_Fichas - Gastos_Empleados from caja"
+                               " order by semana desc limit 1"));
+
+    // The totals are what the ledger holds.
+    EXPECT_GT(totals.tvIncome, 0);
+    EXPECT_EQ(totals.tvIncome, m_store->integer("select sum(ingresos_TV) from caja"));
+    EXPECT_EQ(totals.tvIncome % 450000, 0);
+    EXPECT_EQ(totals.gateIncome, m_store->integer("select sum(ingresos_Taquilla + ingresos_publi) from caja"));
+    EXPECT_GT(totals.shopIncome, 0);
+    EXPECT_EQ(totals.shopIncome % 1000, 0);
+    EXPECT_LE(totals.shopIncome, m_store->integer("select sum(Ingresos_Tienda) from caja"));
+    EXPECT_EQ(m_store->integer("select precio_entrada from entradas where idPrecio = 1"), 30);
 }

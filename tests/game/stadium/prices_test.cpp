@@ -1,0 +1,122 @@
+#include "career/career.h"
+#include "career/fixture.h"
+#include "stadium/prices.h"
+#include "tempstore.h"
+
+#include <functional>
+
+using game::Prices;
+
+class PricesTest : public StoreTest
+{
+protected:
+    void setStored(int row, int price)
+    {
+        ASSERT_TRUE(m_store->run([&] {
+            m_store->execute("update entradas set precio_entrada = ? where idPrecio = ?", price, row);
+        }).ok());
+    }
+    qint64 stored(int row) { return m_store->integer("select precio_entrada from entradas where idPrecio = ?", row); }
+    qint64 changes() { return m_store->integer("select total_changes()"); }
+};
+
+struct Press {
+    friend void PrintTo(const Press &c, std::ostream *out) { *out << c.label; }
+    const char *label;
+    int row;
+    int start;
+    std::function<int(Prices &)> press;
+    int expected;
+};
+
+class PricePress : public PricesTest, public ::testing::WithParamInterface<Press>
+{};
+
+// Guards: a bound tested with "at least" instead of equality (so 28 would stop at 30), a price
+// at its bound not written again, or the ticket's press landing on the boards' row.
+TEST_P(PricePress, stepsThePriceWithAnEqualityBoundAndWritesItAtOnce)
+{
+    const Press &press = GetParam();
+    setStored(1, 10);
+    setStored(2, 1000);
+    setStored(press.row, press.start);
+    const qint64 before = changes();
+    Prices prices(*m_context);
+    EXPECT_EQ(press.press(prices), press.expected);
+    EXPECT_EQ(stored(press.row), press.expected);
+    EXPECT_EQ(changes(), before + 1); // written, also when it stays
+    EXPECT_EQ(stored(press.row == 1 ? 2 : 1), press.row == 1 ? 1000 : 10);
+    EXPECT_TRUE(m_dialogs.messages().empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Buttons, PricePress,
+    ::testing::Values(Press{"ticket25up", 1, 25, &Prices::raiseTicket, 30},
+                      Press{"ticket30up", 1, 30, &Prices::raiseTicket, 30},
+                      Press{"ticket28up", 1, 28, &Prices::raiseTicket, 33},
+                      Press{"ticket33up", 1, 33, &Prices::raiseTicket, 38},
+                      Press{"ticket10down", 1, 10, &Prices::lowerTicket, 5},
+                      Press{"ticket5down", 1, 5, &Prices::lowerTicket, 5},
+                      Press{"ticket3down", 1, 3, &Prices::lowerTicket, -2},
+                      Press{"boards1700up", 2, 1700, &Prices::raiseBoards, 1800},
+                      Press{"boards1800up", 2, 1800, &Prices::raiseBoards, 1800},
+                      Press{"boards1000down", 2, 1000, &Prices::lowerBoards, 900},
+                      Press{"boards900down", 2, 900, &Prices::lowerBoards, 900}),
+    [](const auto &info) { return std::string(info.param.label); });
+
+// Guards: a step of the wrong size somewhere between the bounds of the boards, or the ticket.
+TEST_F(PricesTest, boardsClimbFromNineHundredToEighteenHundredInTenStepsAndTicketsFromFiveToThirty)
+{
+    setStored(2, 900);
+    setStored(1, 5);
+    Prices prices(*m_context);
+    QList<int> boards{prices.boards()};
+    while (boards.last() != Prices::kBoardsHighest && boards.size() < 20)
+        boards << prices.raiseBoards();
+    EXPECT_EQ(boards, (QList<int>{900, 1000, 1100, 1200, 1300, 1400, 1500, 1600, 1700, 1800}));
+    QList<int> tickets{prices.ticket()};
+    while (tickets.last() != Prices::kTicketHighest && tickets.size() < 20)
+        tickets << prices.raiseTicket();
+    EXPECT_EQ(tickets, (QList<int>{5, 10, 15, 20, 25, 30}));
+    while (prices.ticket() != Prices::kTicketLowest && tickets.size() < 40)
+        tickets << prices.lowerTicket();
+    EXPECT_EQ(stored(1), 5);
+}
+
+// Guards: a press lost silently, or a half-written price, when the store refuses it.
+TEST_F(PricesTest, aPressTheStoreRefusesIsToldAndKeepsTheOldPrice)
+{
+    setStored(1, 15);
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("create trigger refuse before update on entradas begin select raise(abort, 'disco lleno'); end");
+    }).ok());
+    EXPECT_EQ(Prices(*m_context).raiseTicket(), 15);
+    EXPECT_EQ(stored(1), 15);
+    EXPECT_EQ(m_dialogs.messages().size(), 1u);
+}
+
+// Guards: prices offered in an away week, in a week without a match, or a home match missed
+// when only the club's name tells it.
+TEST(PricesHomeWeek, isAWeekWhoseMatchTheUsersClubPlaysAtHome)
+{
+    game::CareerRow career;
+    career.club = 4;
+    career.clubName = QStringLiteral("PORTLAND SAN ANTONIO");
+    game::Fixture home;
+    home.homeId = 4;
+    home.homeName = QStringLiteral("Portland San Antonio");
+    home.awayId = 5;
+    game::Fixture away;
+    away.homeId = 5;
+    away.homeName = QStringLiteral("BM Valladolid");
+    away.awayId = 4;
+
+    EXPECT_TRUE(Prices::homeWeek(home, career));
+    EXPECT_FALSE(Prices::homeWeek(away, career));
+    EXPECT_FALSE(Prices::homeWeek(std::nullopt, career));
+
+    game::CareerRow byName = career;
+    byName.club = 0;
+    EXPECT_TRUE(Prices::homeWeek(home, byName));
+    EXPECT_FALSE(Prices::homeWeek(away, byName));
+}

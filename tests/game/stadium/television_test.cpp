@@ -1,0 +1,138 @@
+#include "career/fixture.h"
+#include "career/week.h"
+#include "career/weekevents.h"
+#include "careerfixture.h"
+#include "stadium/ledger.h"
+#include "stadium/television.h"
+
+using game::Fixture;
+using game::Television;
+
+// The user's club (4) with week 1 open. Unless a test says otherwise the user and the rival
+// (5) are of different classes and two places apart: a match television does not want.
+class TelevisionTest : public CareerTest
+{
+protected:
+    static constexpr int kRival = 5;
+    static constexpr int kAbroad = 80; // no place in the table
+
+    void SetUp() override
+    {
+        CareerTest::SetUp();
+        startCareer();
+        planSeason(0);
+        ASSERT_TRUE(game::Week(*m_context, game::WeekEvents{}).open());
+        setClub(kClub, 1, 3);
+        setClub(kRival, 2, 5);
+    }
+
+    void setClub(int club, int categoria, int place)
+    {
+        ASSERT_TRUE(m_store->run([&] {
+            m_store->execute("update equipos set categoria = ? where idequipo = ?", categoria, club);
+            m_store->execute("update asobal set puesto_actual = ? where teams = ?", place, club);
+        }).ok());
+    }
+
+    static Fixture match(int home, int away)
+    {
+        Fixture fixture;
+        fixture.week = 1;
+        fixture.homeId = home;
+        fixture.awayId = away;
+        fixture.rivalId = home == kClub ? away : home;
+        return fixture;
+    }
+};
+
+struct BuyCase {
+    friend void PrintTo(const BuyCase &c, std::ostream *out) { *out << c.label; }
+    const char *label;
+    int rivalClass;
+    int userPlace;
+    int rivalPlace;
+    bool bought;
+};
+
+class TelevisionBuys : public TelevisionTest, public ::testing::WithParamInterface<BuyCase>
+{};
+
+// Guards: neighbours found two places apart, equal places taken for neighbours, or the class
+// ignored; home or away making a difference.
+TEST_P(TelevisionBuys, matchesOfOneClassOrOfNeighboursInTheTable)
+{
+    setClub(kClub, 1, GetParam().userPlace);
+    setClub(kRival, GetParam().rivalClass, GetParam().rivalPlace);
+    Television tv(*m_context);
+    EXPECT_EQ(tv.buys(kClub, kRival), GetParam().bought);
+    EXPECT_EQ(tv.buys(kRival, kClub), GetParam().bought);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rule, TelevisionBuys,
+                         ::testing::Values(BuyCase{"places3and4", 2, 3, 4, true},
+                                           BuyCase{"places4and3", 2, 4, 3, true},
+                                           BuyCase{"places3and5", 2, 3, 5, false},
+                                           BuyCase{"equalPlaces", 2, 3, 3, false},
+                                           BuyCase{"sameClassFarApart", 1, 3, 9, true},
+                                           BuyCase{"sameClassEqualPlaces", 1, 3, 3, true}),
+                         [](const auto &info) { return std::string(info.param.label); });
+
+// Guards: a club with no place in the table (a friendly abroad) turned away.
+TEST_F(TelevisionTest, buysAMatchAgainstAClubOutsideTheLeague)
+{
+    setClub(kAbroad, 2, 0);
+    ASSERT_EQ(count("asobal where teams = 80"), 0);
+    EXPECT_TRUE(Television(*m_context).buys(kAbroad, kClub));
+}
+
+// Guards: the week's message skipped when nothing is bought or there is no match, or coming
+// after the decision; the fee booked by the decision alone.
+TEST_F(TelevisionTest, runTellsTheLoadingMessageEveryWeekAndBooksNothing)
+{
+    const QString loading = QStringLiteral("Cargando... Pulse Aceptar para continuar");
+    const QString ledger = dump("caja");
+    Television tv(*m_context);
+
+    EXPECT_FALSE(tv.run(match(kClub, kRival)).has_value());
+    EXPECT_FALSE(tv.run(std::nullopt).has_value());
+    setClub(kRival, 2, 4);
+    m_random.scriptDraw(3, Television::kChannels);
+    const std::optional<QString> channel = tv.run(match(kRival, kClub));
+    ASSERT_TRUE(channel.has_value());
+    EXPECT_EQ(*channel, QStringLiteral("Solana Televisión"));
+
+    EXPECT_EQ(m_dialogs.texts(), QStringList(3, loading));
+    EXPECT_EQ(dump("caja"), ledger);
+}
+
+// Guards: a channel out of the seven, or one of them never drawn.
+TEST_F(TelevisionTest, eachOfTheSevenDrawsNamesItsOwnChannel)
+{
+    Television tv(*m_context);
+    QStringList names;
+    for (int draw = 1; draw <= Television::kChannels; ++draw) {
+        m_random.scriptDraw(draw, Television::kChannels);
+        names << tv.drawChannel();
+    }
+    EXPECT_EQ(names.join(QLatin1Char('|')),
+              QStringLiteral("Teleiberia Deportes|Canal Siete Mares|Solana Televisión|Mirador TV|Telesport Hispania|"
+                             "Levantina de Televisión|Onda Cierzo TV"));
+}
+
+// Guards: the fee booked to the wrong week or column, or a refused booking not told.
+TEST_F(TelevisionTest, theFeeGoesToTheWeeksRowAndAFailureIsTold)
+{
+    const game::Ledger::Row opened = *game::Ledger(*m_store).row(1);
+    ASSERT_TRUE(Television(*m_context).bookFee(1));
+    const game::Ledger::Row booked = *game::Ledger(*m_store).row(1);
+    EXPECT_EQ(booked.television, 450000);
+    EXPECT_EQ(booked.ingresos, opened.ingresos + 450000);
+    EXPECT_EQ(booked.caja, opened.caja + 450000);
+
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("create trigger refuse before update on caja begin select raise(abort, 'disco lleno'); end");
+    }).ok());
+    EXPECT_FALSE(Television(*m_context).bookFee(1));
+    EXPECT_EQ(m_dialogs.messages().size(), 1u);
+    EXPECT_EQ(game::Ledger(*m_store).row(1)->television, 450000);
+}

@@ -1,0 +1,400 @@
+#include "career/week.h"
+#include "career/weekevents.h"
+#include "careerfixture.h"
+#include "stadium/ledger.h"
+#include "stadium/works.h"
+
+#include <map>
+#include <memory>
+
+using game::Ledger;
+using game::Works;
+
+// The user's club (4) in a season of thirty weeks, with week 1 open and the stadium's own
+// events left to each test: Works::runWeek is called by hand after a week opens.
+class WorksTest : public CareerTest
+{
+protected:
+    void SetUp() override
+    {
+        CareerTest::SetUp();
+        startCareer();
+        planSeason(0);
+        m_week = std::make_unique<game::Week>(*m_context, game::WeekEvents{});
+        ASSERT_TRUE(m_week->open());
+    }
+
+    // Opens weeks until `week` is open.
+    void openUntil(int week)
+    {
+        while (m_week->number() < week)
+            ASSERT_TRUE(m_week->open());
+    }
+
+    void setStadium(const std::map<std::string, int> &columns)
+    {
+        ASSERT_TRUE(m_store->run([&] {
+            for (const auto &[column, value] : columns)
+                m_store->execute("update estadios set " + column + " = ? where idequipo = ?", value, kClub);
+        }).ok());
+    }
+
+    qint64 stadium(const std::string &column)
+    {
+        return m_store->integer("select " + column + " from estadios where idequipo = ?", kClub);
+    }
+
+    qint64 budget() { return m_store->integer("select presupuesto from infoteams where idequipo = ?", kClub); }
+    Ledger::Row row(int week) { return Ledger(*m_store).row(week).value_or(Ledger::Row{}); }
+
+    // A transfer offer as the market writes it: a single blank in the text and the payment.
+    void insertOffer(int week)
+    {
+        ASSERT_TRUE(m_store->run([&] {
+            m_store->execute("insert into selects (\"select\", jornada, oferta, clausula, ficha, jugador, observaciones, pago)"
+                             " values ('update jugadores set idequipo=4 where idjugador=900', ?, 50000, 0, 1000, 900, ' ', ' ')",
+                             week);
+        }).ok());
+    }
+
+    std::unique_ptr<game::Week> m_week;
+};
+
+// Guards: a catalogue line whose text charges a different cost or runs a different number of
+// weeks than its own figures, so the screen promises one thing and the week books another.
+TEST(WorksCatalogue, eachOrderTextCarriesItsOwnKeyCostAndWeeks)
+{
+    const std::map<std::string, std::string> columnOfKey{
+        {"gradas", "min_gradas"}, {"parking", "parking"},       {"focos", "focos"},
+        {"marcadores", "marcadores"}, {"calefaccion", "calefaccion"}, {"accesos", "accesos"},
+        {"enfermeria", "enfermeria"}, {"tienda", "tienda"},     {"lavabos", "lavabos"},
+        {"cafeteria", "cafeteria"}};
+    QStringList boxes;
+    for (const Works::Order &order : Works::catalogue()) {
+        const QStringList tokens = QString::fromUtf8(order.text).split(QLatin1Char(' '));
+        ASSERT_EQ(tokens.size(), 4) << order.text;
+        EXPECT_EQ(columnOfKey.at(tokens[0].toStdString()), order.column) << order.text;
+        EXPECT_EQ(tokens[2].toLongLong(), order.cost) << order.text;
+        EXPECT_EQ(tokens[3].toInt(), order.weeks) << order.text;
+        EXPECT_EQ(Works::groupOfKey(tokens[0]), order.group) << order.text;
+        EXPECT_EQ(Works::orderOfBox(QString::fromUtf8(order.box)), &order);
+        boxes << QString::fromUtf8(order.box);
+    }
+    EXPECT_EQ(boxes.join(QLatin1Char(' ')),
+              QStringLiteral("Option1 Option2 Option3 Option5 Option6 Option7 Option8 Option12 Option11 Option9"
+                             " Option15 Option14 Option17 Option18 Option19 Option21 Option25 Option26 Option23"));
+    // The boxes that name the starting state order nothing.
+    for (const char *none : {"Option4", "Option13", "Option10", "Option16", "Option20", "Option22", "Option24"})
+        EXPECT_EQ(Works::orderOfBox(QString::fromUtf8(none)), nullptr) << none;
+}
+
+// Guards: orders written out of the catalogue's order, a seats order holding the increment
+// instead of the finished capacity, money taken when the order is placed, or a box without
+// an order writing a row.
+TEST_F(WorksTest, anOrderWritesOneRowPerTickedWorkWithTheCapacityFixedNow)
+{
+    setStadium({{"min_gradas", 15000}, {"parking", 0}, {"focos", 0}, {"tienda", 0}});
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("update infoteams set presupuesto = -5 where idequipo = ?", kClub); }).ok());
+    const QString ledgerBefore = dump("caja");
+
+    const int placed = Works(*m_context).order({QStringLiteral("Option21"), QStringLiteral("Option4"),
+                                                QStringLiteral("Option6"), QStringLiteral("Option1"),
+                                                QStringLiteral("Option5")});
+
+    EXPECT_EQ(placed, 4);
+    EXPECT_EQ(dump("selects"),
+              QStringLiteral(
+                  "update estadios set min_gradas=16000 where idequipo=4|1|0|0|0|0|gradas 1000 1000000 12|"
+                  "update infoteams set presupuesto=presupuesto - 1000000 where idequipo=4|\n"
+                  "update estadios set parking=1 where idequipo=4|1|0|0|0|0|parking 0 3500000 30|"
+                  "update infoteams set presupuesto=presupuesto - 3500000 where idequipo=4|\n"
+                  "update estadios set focos=1 where idequipo=4|1|0|0|0|0|focos 1 120000 6|"
+                  "update infoteams set presupuesto=presupuesto - 120000 where idequipo=4|\n"
+                  "update estadios set tienda=1 where idequipo=4|1|0|0|0|0|tienda 0 90000 7|"
+                  "update infoteams set presupuesto=presupuesto - 90000 where idequipo=4|\n"));
+    ASSERT_EQ(m_dialogs.messages().size(), 1u);
+    EXPECT_EQ(m_dialogs.messages()[0].text, QStringLiteral("Las Obras Empezarán en la Jornada Actual"));
+    EXPECT_EQ(m_dialogs.messages()[0].title, QStringLiteral("Remodelación"));
+    // Nothing is paid, and a negative budget stops nothing.
+    EXPECT_EQ(budget(), -5);
+    EXPECT_EQ(dump("caja"), ledgerBefore);
+    EXPECT_EQ(stadium("min_gradas"), 15000);
+
+    // Boxes without an order, or none at all: no row and not a word.
+    m_dialogs.clear();
+    EXPECT_EQ(Works(*m_context).order({QStringLiteral("Option4"), QStringLiteral("Option20")}), 0);
+    EXPECT_EQ(Works(*m_context).order({}), 0);
+    EXPECT_EQ(count("selects"), 4);
+    EXPECT_TRUE(m_dialogs.messages().empty());
+}
+
+// Guards: a seats order that adds its seats to whatever the capacity is when it ends, rather
+// than setting the number fixed at the order; or two seat orders of the same moment adding
+// up.
+TEST_F(WorksTest, seatOrdersSetTheCapacityFixedAtTheOrderAndTheLastToEndDecides)
+{
+    setStadium({{"min_gradas", 15000}});
+    Works works(*m_context);
+    ASSERT_EQ(works.order({QStringLiteral("Option1")}), 1); // ends in week 13 at 16000
+    ASSERT_EQ(works.order({QStringLiteral("Option2")}), 1); // ends in week 18 at 17000
+    setStadium({{"min_gradas", 15500}});                     // changed meanwhile
+
+    openUntil(13);
+    EXPECT_EQ(works.runWeek(), 1);
+    EXPECT_EQ(stadium("min_gradas"), 16000);
+    openUntil(18);
+    EXPECT_EQ(works.runWeek(), 1);
+    EXPECT_EQ(stadium("min_gradas"), 17000);
+    EXPECT_EQ(row(13).remodelaciones, 1000000);
+    EXPECT_EQ(row(18).remodelaciones, 5000000);
+}
+
+struct SeatLimit {
+    friend void PrintTo(const SeatLimit &c, std::ostream *out) { *out << c.capacity; }
+    int capacity;
+    const char *offered;
+};
+
+class SeatLimits : public WorksTest, public ::testing::WithParamInterface<SeatLimit>
+{};
+
+// Guards: a limit on the round number instead of one seat above it, so an extension that
+// just reaches 20000 seats is refused, or one that passes 20000 offered.
+TEST_P(SeatLimits, offerOnlyTheExtensionsThatStayWithinTwentyThousandSeats)
+{
+    setStadium({{"min_gradas", GetParam().capacity}});
+    QStringList seats;
+    for (const QString &box : Works(*m_context).screen().enabledBoxes) {
+        if (box == QLatin1String("Option1") || box == QLatin1String("Option2") || box == QLatin1String("Option3"))
+            seats << box;
+    }
+    EXPECT_EQ(seats.join(QLatin1Char(' ')), QString::fromUtf8(GetParam().offered));
+}
+
+INSTANTIATE_TEST_SUITE_P(Capacities, SeatLimits,
+                         ::testing::Values(SeatLimit{16000, "Option1 Option2 Option3"}, SeatLimit{16001, "Option1 Option2"},
+                                           SeatLimit{18000, "Option1 Option2"}, SeatLimit{18001, "Option1"},
+                                           SeatLimit{19000, "Option1"}, SeatLimit{19001, ""},
+                                           SeatLimit{25000, ""}),
+                         [](const auto &info) { return "seats" + std::to_string(info.param.capacity); });
+
+// Guards: a level skipped or offered again, a built service offered once more, or the
+// "without" boxes not standing ticked while the service is missing.
+TEST_F(WorksTest, theScreenOffersTheNextStepOfEachItemAndNothingBuiltTwice)
+{
+    setStadium({{"min_gradas", 4800}, {"focos", 1}, {"marcadores", 0}, {"accesos", 3}, {"enfermeria", 2},
+                {"lavabos", 1}, {"tienda", 0}, {"cafeteria", 1}, {"calefaccion", 0}, {"parking", 1}});
+    const Works::Screen screen = Works(*m_context).screen();
+    EXPECT_EQ(screen.enabledBoxes.join(QLatin1Char(' ')),
+              QStringLiteral("Option1 Option2 Option3 Option7 Option13 Option10 Option9 Option19 Option20 Option21"
+                             " Option25"));
+    EXPECT_EQ(screen.tickedBoxes.join(QLatin1Char(' ')), QStringLiteral("Option10 Option20"));
+    EXPECT_EQ(screen.parkingText, QStringLiteral("Estadio Con 4 Parkings"));
+    EXPECT_TRUE(screen.closedFrames.isEmpty());
+    EXPECT_EQ(screen.stadium.name, QStringLiteral("Pabellón Universitario de Navarra"));
+    EXPECT_EQ(screen.picture, 2);
+
+    // A level the tables do not know changes no box; a missing parking is offered.
+    setStadium({{"focos", 7}, {"parking", 0}});
+    const Works::Screen odd = Works(*m_context).screen();
+    for (const char *box : {"Option6", "Option7", "Option8", "Option4", "Option5"})
+        EXPECT_TRUE(odd.enabledBoxes.contains(QString::fromUtf8(box))) << box;
+    EXPECT_TRUE(odd.tickedBoxes.contains(QStringLiteral("Option4")));
+    EXPECT_EQ(odd.parkingText, QStringLiteral("Estadio Sin Parkings Propios"));
+}
+
+// Guards: a stadium with everything built still offering a work the button would order.
+TEST_F(WorksTest, aStadiumWithEverythingBuiltOffersNothingToOrder)
+{
+    setStadium({{"min_gradas", 19001}, {"focos", 3}, {"marcadores", 3}, {"accesos", 3}, {"enfermeria", 3},
+                {"lavabos", 3}, {"tienda", 1}, {"cafeteria", 1}, {"calefaccion", 1}, {"parking", 1}});
+    const Works::Screen screen = Works(*m_context).screen();
+    EXPECT_TRUE(screen.enabledBoxes.isEmpty()) << screen.enabledBoxes.join(QLatin1Char(' ')).toStdString();
+    EXPECT_EQ(Works(*m_context).order(screen.enabledBoxes), 0);
+    EXPECT_EQ(count("selects"), 0);
+}
+
+// Guards: a work under way that does not close its group, closes the wrong frames, or a
+// service work that leaves the heating open (it closes it, as the stadium always did);
+// offers and unknown items taken for works.
+TEST_F(WorksTest, aWorkUnderWayClosesItsGroupAndAServiceWorkTheHeatingToo)
+{
+    setStadium({{"min_gradas", 4800}, {"focos", 0}, {"marcadores", 1}, {"accesos", 1}, {"enfermeria", 0},
+                {"lavabos", 1}, {"tienda", 0}, {"cafeteria", 0}, {"calefaccion", 0}, {"parking", 0}});
+    Works works(*m_context);
+    insertOffer(1);
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("insert into selects values ('update estadios set focos=9 where idequipo=4', 1, 0, 0, 0, 0,"
+                         " 'grada 1000 1000000 12', ' ')");
+    }).ok());
+    const Works::Screen open = works.screen();
+    EXPECT_TRUE(open.closedFrames.isEmpty());
+    EXPECT_TRUE(open.underWay.empty());
+
+    ASSERT_EQ(works.order({QStringLiteral("Option21")}), 1); // the shop, seven weeks
+    openUntil(3);
+    const Works::Screen services = works.screen();
+    EXPECT_EQ(services.closedFrames.join(QLatin1Char(' ')), QStringLiteral("cale Enfermeria Tienda Cafeteria wc"));
+    EXPECT_EQ(services.enabledBoxes.join(QLatin1Char(' ')),
+              QStringLiteral("Option1 Option2 Option3 Option4 Option5 Option6 Option12 Option15"));
+    ASSERT_EQ(services.underWay.size(), 1u);
+    EXPECT_EQ(services.underWay[0].key, QStringLiteral("tienda"));
+    EXPECT_EQ(services.underWay[0].level, QStringLiteral("0"));
+    EXPECT_EQ(services.underWay[0].cost, 90000);
+    EXPECT_EQ(services.underWay[0].weeksLeft, 5); // ordered in week 1, seven weeks, now week 3
+
+    ASSERT_EQ(works.order({QStringLiteral("Option6"), QStringLiteral("Option1")}), 2);
+    const Works::Screen all = works.screen();
+    EXPECT_EQ(all.closedFrames.join(QLatin1Char(' ')),
+              QStringLiteral("gradas focos Marcadores Accesos cale Enfermeria Tienda Cafeteria wc"));
+    EXPECT_EQ(all.enabledBoxes.join(QLatin1Char(' ')), QStringLiteral("Option4 Option5"));
+
+    // The shop ends in week 8: its group opens again at the next look, the others stay shut.
+    openUntil(8);
+    ASSERT_EQ(works.runWeek(), 1);
+    const Works::Screen after = works.screen();
+    EXPECT_EQ(after.closedFrames.join(QLatin1Char(' ')), QStringLiteral("gradas focos Marcadores Accesos cale"));
+    EXPECT_TRUE(after.enabledBoxes.contains(QStringLiteral("Option17")));
+    EXPECT_FALSE(after.enabledBoxes.contains(QStringLiteral("Option21"))); // built now
+    EXPECT_EQ(count("selects where observaciones = ' '"), 1);
+}
+
+// Guards: a work that ends a week early or late, its cost taken from the budget instead of
+// the week's ledger row, or the stadium left unchanged.
+TEST_F(WorksTest, aWorkEndsAtTheOpeningOfItsOrderWeekPlusItsWeeks)
+{
+    setStadium({{"focos", 0}, {"tienda", 0}});
+    Works works(*m_context);
+    ASSERT_EQ(works.order({QStringLiteral("Option6")}), 1); // week 1, six weeks
+    m_dialogs.clear();
+    for (int week = 2; week <= 6; ++week) {
+        openUntil(week);
+        EXPECT_EQ(works.runWeek(), 0) << week;
+    }
+    EXPECT_TRUE(m_dialogs.messages().empty());
+    EXPECT_EQ(stadium("focos"), 0);
+
+    openUntil(7);
+    const Ledger::Row opened = row(7);
+    const qint64 budgetBefore = budget();
+    EXPECT_EQ(works.runWeek(), 1);
+    EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("Las Obras de La mejora de las FOCOS Han Terminado")});
+    EXPECT_EQ(stadium("focos"), 1);
+    EXPECT_EQ(count("selects"), 0);
+    const Ledger::Row paid = row(7);
+    EXPECT_EQ(paid.remodelaciones, 120000);
+    EXPECT_EQ(paid.gastos, opened.gastos + 120000);
+    EXPECT_EQ(paid.caja, opened.caja - 120000);
+    EXPECT_EQ(budget(), budgetBefore);
+    EXPECT_EQ(row(6).remodelaciones, 0);
+}
+
+// Guards: the second of two identical orders skipped, charged twice, or deleting both rows at
+// once; a pending offer touched by the walk.
+TEST_F(WorksTest, twoIdenticalOrdersBothEndAndAreEachChargedOnce)
+{
+    setStadium({{"enfermeria", 0}, {"tienda", 0}});
+    Works works(*m_context);
+    insertOffer(1);
+    ASSERT_EQ(works.order({QStringLiteral("Option17")}), 1);
+    ASSERT_EQ(works.order({QStringLiteral("Option17")}), 1); // pressed again on the same screen
+    const QString offer = dump("selects").section(QLatin1Char('\n'), 0, 0);
+    m_dialogs.clear();
+
+    openUntil(5);
+    EXPECT_EQ(works.runWeek(), 2);
+    EXPECT_EQ(m_dialogs.texts(), QStringList(2, QStringLiteral("Las Obras de La mejora de las ENFERMERIA Han Terminado")));
+    EXPECT_EQ(row(5).remodelaciones, 120000);
+    EXPECT_EQ(stadium("enfermeria"), 1);
+    EXPECT_EQ(dump("selects"), offer + QLatin1Char('\n'));
+
+    // The same text ordered a week apart: the first to end takes only its own row.
+    ASSERT_EQ(works.order({QStringLiteral("Option18")}), 1); // week 5, ends in week 9
+    openUntil(6);
+    ASSERT_EQ(works.order({QStringLiteral("Option18")}), 1); // week 6, ends in week 10
+    openUntil(9);
+    EXPECT_EQ(works.runWeek(), 1);
+    EXPECT_EQ(count("selects where observaciones = 'enfermeria 2 60000 4'"), 1);
+    openUntil(10);
+    EXPECT_EQ(works.runWeek(), 1);
+    EXPECT_EQ(row(9).remodelaciones + row(10).remodelaciones, 120000);
+    EXPECT_EQ(count("selects"), 1);
+}
+
+// Guards: one broken order stopping the walk, or a broken order kept to end again and again.
+TEST_F(WorksTest, anOrderThatCannotBeAppliedIsStillChargedAndTheWalkGoesOn)
+{
+    setStadium({{"focos", 0}, {"tienda", 0}});
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("insert into selects values ('update estadios set focos=uno where idequipo=4', 1, 0, 0, 0, 0,"
+                         " 'focos 1 120000 6', 'x')");
+    }).ok());
+    Works works(*m_context);
+    ASSERT_EQ(works.order({QStringLiteral("Option7")}), 1);
+    openUntil(7);
+    EXPECT_EQ(works.runWeek(), 2);
+    EXPECT_EQ(row(7).remodelaciones, 240000);
+    EXPECT_EQ(stadium("focos"), 2);
+    EXPECT_EQ(count("selects"), 0);
+}
+
+// Guards: the shop paying only in weeks without works, not paying in the week it opens, or
+// paying a club without one.
+TEST_F(WorksTest, theShopPaysEveryWeekItStandsFromTheWeekItIsBuilt)
+{
+    setStadium({{"tienda", 1}, {"focos", 0}});
+    Works works(*m_context);
+    EXPECT_EQ(works.runWeek(), 0);
+    EXPECT_EQ(row(1).tiendas, 1000);
+    EXPECT_EQ(row(1).ingresos, 1000);
+
+    ASSERT_EQ(works.order({QStringLiteral("Option6")}), 1); // a work under way changes nothing
+    openUntil(2);
+    works.runWeek();
+    EXPECT_EQ(row(2).tiendas, 1000);
+
+    // Without a shop nothing comes until the one ordered now is built, that very week.
+    setStadium({{"tienda", 0}});
+    ASSERT_EQ(works.order({QStringLiteral("Option21")}), 1); // week 2, seven weeks
+    for (int week = 3; week <= 8; ++week) {
+        openUntil(week);
+        works.runWeek();
+        EXPECT_EQ(row(week).tiendas, 0) << week;
+    }
+    openUntil(9);
+    EXPECT_EQ(works.runWeek(), 1);
+    EXPECT_EQ(row(9).tiendas, 1000);
+    EXPECT_EQ(row(9).remodelaciones, 90000);
+    EXPECT_EQ(stadium("tienda"), 1);
+}
+
+// Guards: works cut short by the season's close left pending into the next season, paid in the
+// ledger instead of the budget, or offers swept away with them.
+TEST_F(WorksTest, theSeasonsCloseEndsEveryWorkAtTheBudgetsCost)
+{
+    setStadium({{"min_gradas", 5000}, {"cafeteria", 0}});
+    insertOffer(1);
+    Works works(*m_context);
+    ASSERT_EQ(works.order({QStringLiteral("Option3"), QStringLiteral("Option23")}), 2);
+    const qint64 budgetBefore = budget();
+    const QString ledgerBefore = dump("caja");
+    m_dialogs.clear();
+
+    EXPECT_EQ(works.finishAll(), 2);
+    EXPECT_EQ(m_dialogs.texts(), QStringList(2, QStringLiteral("Si Tenías Obras de Mejora del Estadio se Han terminado")));
+    EXPECT_EQ(budget(), budgetBefore - 10000000 - 135000);
+    EXPECT_EQ(stadium("min_gradas"), 9000);
+    EXPECT_EQ(stadium("cafeteria"), 1);
+    EXPECT_EQ(dump("caja"), ledgerBefore);
+    EXPECT_EQ(count("selects"), 1);
+    EXPECT_EQ(count("selects where observaciones = ' '"), 1);
+}
+
+TEST(WorksPicture, followsTheCapacityByThousandsFromThreeThousandToFourteenThousand)
+{
+    const std::vector<std::pair<int, int>> cases{{0, 0},       {2999, 0},   {3000, 1},  {3999, 1},
+                                                 {4000, 2},    {8500, 6},   {13999, 11}, {14000, 12},
+                                                 {20000, 12}};
+    for (const auto &[capacity, picture] : cases)
+        EXPECT_EQ(Works::pictureFor(capacity), picture) << capacity;
+}
