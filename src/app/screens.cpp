@@ -14,7 +14,9 @@
 #include "match/matchscreen.h"
 #include "match/tacticsscreen.h"
 #include "reports/calendarscreen.h"
+#include "stadium/broadcastscreen.h"
 #include "stadium/ledgerscreen.h"
+#include "stadium/stadiumscreen.h"
 #include "transfers/addyouthscreen.h"
 
 #include <QMainWindow>
@@ -196,6 +198,29 @@ void registerScreens(Navigator &nav)
              [](Navigator &navigator) {
                  return closing(navigator, new ui::LedgerScreen(navigator.context(), navigator.week().number()),
                                 QStringLiteral("Caja"));
+             },
+             {}});
+
+    // The stadium: works, prices, and the television's money.
+    nav.add(QStringLiteral("estadios"),
+            {Mode::Page, false, false,
+             [](Navigator &navigator) {
+                 return closing(navigator, new ui::StadiumScreen(navigator.context(), navigator.week()),
+                                QStringLiteral("estadios"));
+             },
+             {}});
+
+    nav.add(QStringLiteral("Tele"),
+            {Mode::Dialog, false, false,
+             [](Navigator &navigator) -> QWidget * {
+                 // Only a week whose match television has bought shows it, and only until the
+                 // player has acknowledged it.
+                 if (!navigator.week().broadcast())
+                     return nullptr;
+                 auto *tele = new ui::BroadcastScreen(navigator.week());
+                 QObject::connect(tele, &QDialog::accepted, &navigator,
+                                  [&navigator] { navigator.close(QStringLiteral("Tele")); });
+                 return tele;
              },
              {}});
 }

@@ -20,7 +20,18 @@ protected:
             click(QStringLiteral("cmdNoJugar"));
         click(QStringLiteral("cmdSeguir"));
         ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+        runTheWeeksEvents();
+    }
+
+    // The panel's first tick: the week's events, their messages read, and a broadcast taken.
+    void runTheWeeksEvents()
+    {
         m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager"))->runWeekEvents();
+        settle();
+        EXPECT_TRUE(m_dialogs.texts().contains(QStringLiteral("Cargando... Pulse Aceptar para continuar")));
+        if (m_navigator->screen(QStringLiteral("Tele")))
+            click(QStringLiteral("cmdOK"));
+        m_dialogs.clear();
     }
 
     // Picks the grid row of a player and a place of the list, and presses "Añadir".
@@ -289,6 +300,7 @@ TEST_F(MatchScreens, anAwayFriendlyAbroadShowsTheWholeCrowdBox)
     ASSERT_EQ(find<QLabel>(QStringLiteral("Tipo"))->text(), QStringLiteral("AMISTOSO"));
     const int home = m_navigator->week().fixture()->homeId;
     ASSERT_EQ(m_store->integer("select count(*) from estadios where idequipo = ?", home), 0);
+    runTheWeeksEvents();
     const QString ledger = dump("caja");
 
     click(QStringLiteral("cmdSeguir"));

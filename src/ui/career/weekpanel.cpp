@@ -189,6 +189,10 @@ void WeekPanel::runWeekEvents()
 {
     m_timer->stop();
     m_week.runEvents();
+    // Television's offer comes last among the week's events and waits for the player's OK,
+    // also when the events ran before the panel's turn.
+    if (m_week.broadcast())
+        emit openRequested(QStringLiteral("Tele"));
 }
 
 void WeekPanel::seguir()

@@ -30,7 +30,8 @@ public:
 
     // Shows the open week, and starts its events' timer if they have not run.
     void showWeek();
-    // Runs the week's events at once instead of waiting for the timer (a test, a tool).
+    // Runs the week's events at once instead of waiting for the timer (a test, a tool). When
+    // television buys the match, the panel asks for the "Tele" screen.
     void runWeekEvents();
 
 signals:

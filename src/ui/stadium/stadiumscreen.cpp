@@ -1,0 +1,616 @@
+#include "stadiumscreen.h"
+
+#include "common/indexedlabel.h"
+#include "common/plainlabel.h"
+#include "common/theme.h"
+#include "stadium/prices.h"
+#include "stadium/stadiumpicture.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <span>
+
+namespace ui {
+
+namespace {
+
+const QSize kPictureSize(360, 236);
+
+// The boxes that name the state a stadium starts from. They order nothing, so the catalogue
+// of works does not hold them.
+const std::pair<int, const char *> kStartingStates[] = {{4, "Sin Parking"},   {13, "MANUAL"},
+                                                        {10, "Sin Calefacción"}, {16, "BÁSICOS"},
+                                                        {20, "Sin Tiendas"},  {22, "Sin Cafeterías"},
+                                                        {24, "1 Lavabo"}};
+
+// Equipment boxes 6 to 16 are one choice, service boxes 17 to 26 another: a click on one
+// clears the rest of its choice, also in the frames out of sight, so one press of
+// "APLICAR REMODELACIÓN" orders at most one work of each group.
+constexpr int kFirstEquipment = 6;
+constexpr int kFirstService = 17;
+constexpr int kBoxes = 26;
+
+// An inner frame of the equipment or the services: its button, its frame and its boxes in the
+// order they are shown (the lowest step first).
+struct ItemFrame
+{
+    const char *button;
+    const char *buttonCaption;
+    const char *frame;
+    const char *frameCaption;
+    std::array<int, 3> boxes; // 0: no box
+};
+
+const ItemFrame kEquipment[] = {{"cmdFocos", "Focos", "focos", "Focos", {6, 7, 8}},
+                                {"cmdMarcadores", "Marcadores", "Marcadores", "Marcadores", {13, 12, 11}},
+                                {"cmdCalefaccion", "Calefacción", "cale", "Calefacción", {10, 9, 0}},
+                                {"cmdAccesos", "Accesos al Estadio", "Accesos", "Accesos", {16, 15, 14}}};
+const ItemFrame kServices[] = {{"cmdEnfermería", "Enfermería", "Enfermeria", "Enfermería", {17, 18, 19}},
+                               {"cmdTienda", "Tienda del Club", "Tienda", "Tienda del Club", {20, 21, 0}},
+                               {"cmdCafetería", "Cafetería", "Cafeteria", "Cafetería", {22, 23, 0}},
+                               {"cmdWc", "W.C.", "wc", "W. C.", {24, 25, 26}}};
+
+// The rows of "Estado de las Obras", by the item key of a work: its name cell (with the index
+// of the repeated name labels), its price and weeks cells, and the name the row carries.
+struct WorksRow
+{
+    const char *key;
+    const char *nameCell;
+    int nameIndex; // -1: a single label
+    const char *priceCell;
+    const char *weeksCell;
+    int index;     // of the price and weeks cells; -1: single labels
+    const char *name;
+};
+
+const WorksRow kWorksRows[] = {
+    {"gradas", "lblAsientos", -1, "gpagar", "gsemanas", -1, ""},
+    {"parking", "lblParking", -1, "Ppagar", "psemanas", -1, ""},
+    {"focos", "lblEquipamiento", 0, "EPF", "EFS", 0, "  FOCOS"},
+    {"calefaccion", "lblEquipamiento", 1, "EPF", "EFS", 1, "  CALEFACCIÓN"},
+    {"marcadores", "lblEquipamiento", 2, "EPF", "EFS", 2, "  MARCADORES"},
+    {"accesos", "lblEquipamiento", 3, "EPF", "EFS", 3, "  ACCESOS"},
+    {"enfermeria", "lblServicios", 4, "SEP", "SES", 0, "  ENFERMERIA"},
+    {"tienda", "lblServicios", 5, "SEP", "SES", 1, "  TIENDA"},
+    {"lavabos", "lblServicios", 6, "SEP", "SES", 2, "  LAVABOS"},
+    {"cafeteria", "lblServicios", 7, "SEP", "SES", 3, "  CAFETERÍA"},
+};
+
+// The cells of the works table: dark on light, so that a work's black price reads; a work
+// under way paints its name red and its weeks orange.
+const QString kCell = QStringLiteral("background: #dfe4ee; border-radius: 3px; padding: 5px 10px; color: %1;%2");
+
+QString cellStyle(const char *colour, bool bold = false)
+{
+    return kCell.arg(QString::fromLatin1(colour), bold ? QStringLiteral(" font-weight: bold;") : QString());
+}
+
+QString boxName(int number)
+{
+    return QStringLiteral("Option%1").arg(number);
+}
+
+QLabel *amber(const QString &text, int pixels = 0)
+{
+    QLabel *label = plainLabel(text);
+    label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;%1")
+                             .arg(pixels ? QStringLiteral(" font-size: %1px;").arg(pixels) : QString()));
+    return label;
+}
+
+QLabel *value(const char *name, int pixels = 0)
+{
+    QLabel *label = plainLabel();
+    label->setObjectName(QString::fromLatin1(name));
+    label->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold;%1")
+                             .arg(pixels ? QStringLiteral(" font-size: %1px;").arg(pixels) : QString()));
+    return label;
+}
+
+QPushButton *button(const QString &name, const QString &caption, bool secondary = true)
+{
+    auto *widget = new QPushButton(caption);
+    widget->setObjectName(name);
+    if (secondary)
+        widget->setProperty("role", QStringLiteral("secondary"));
+    return widget;
+}
+
+QGroupBox *frame(const QString &name, const QString &caption)
+{
+    auto *box = new QGroupBox(caption);
+    box->setObjectName(name);
+    return box;
+}
+
+// One level of frames: each button shows its own frame and hides the others, and is marked
+// while its frame is on show.
+using Level = std::vector<std::pair<QPushButton *, QWidget *>>;
+
+void showOnly(const Level &level, QWidget *shown)
+{
+    // Hide first, or for a moment two frames ask for room and the window grows.
+    for (const auto &[button, frame] : level) {
+        if (frame != shown)
+            frame->setVisible(false);
+    }
+    for (const auto &[button, frame] : level) {
+        if (frame == shown)
+            frame->setVisible(true);
+        button->setProperty("open", frame == shown);
+        button->style()->unpolish(button);
+        button->style()->polish(button);
+    }
+}
+
+void linkLevel(const Level &level)
+{
+    for (const auto &[button, frame] : level)
+        QObject::connect(button, &QPushButton::clicked, frame, [level, frame] { showOnly(level, frame); });
+    showOnly(level, level.front().second);
+}
+
+// The equipment or the services: a button for each item beside the item's frame, one frame
+// on show at a time.
+QGroupBox *itemsFrame(const char *name, const QString &caption, std::span<const ItemFrame> items,
+                      const std::array<QAbstractButton *, kBoxes> &boxes)
+{
+    QGroupBox *group = frame(QString::fromLatin1(name), caption);
+    Level level;
+    for (const ItemFrame &item : items) {
+        QGroupBox *inner = frame(QString::fromUtf8(item.frame), QString::fromUtf8(item.frameCaption));
+        auto *layout = new QVBoxLayout(inner);
+        layout->setContentsMargins(16, 14, 16, 10);
+        layout->setSpacing(8);
+        for (int number : item.boxes) {
+            if (number)
+                layout->addWidget(boxes[std::size_t(number - 1)]);
+        }
+        // The price and the weeks of these works are told only once they are under way.
+        auto *terms = new QGridLayout;
+        terms->setHorizontalSpacing(10);
+        terms->addWidget(theme::fieldCaption(StadiumScreen::tr("Precio:")), 0, 0);
+        terms->addWidget(plainLabel(), 0, 1);
+        terms->addWidget(theme::fieldCaption(StadiumScreen::tr("Semanas:")), 1, 0);
+        terms->addWidget(plainLabel(), 1, 1);
+        terms->setColumnStretch(1, 1);
+        layout->addSpacing(4);
+        layout->addLayout(terms);
+        level.push_back({button(QString::fromUtf8(item.button), QString::fromUtf8(item.buttonCaption)), inner});
+    }
+
+    auto *buttons = new QVBoxLayout;
+    buttons->setSpacing(8);
+    auto *frames = new QVBoxLayout;
+    for (const auto &[widget, shown] : level) {
+        widget->setFixedWidth(190);
+        buttons->addWidget(widget);
+        frames->addWidget(shown);
+    }
+    buttons->addStretch();
+    frames->addStretch();
+    linkLevel(level);
+
+    auto *layout = new QHBoxLayout(group);
+    layout->setContentsMargins(14, 14, 14, 10);
+    layout->setSpacing(14);
+    layout->addLayout(buttons);
+    layout->addLayout(frames, 1);
+    return group;
+}
+
+} // namespace
+
+StadiumScreen::StadiumScreen(game::Context context, game::Week &week, QWidget *parent)
+    : QWidget(parent), m_context(context), m_week(week), m_seats(new QButtonGroup(this)),
+      m_parking(new QButtonGroup(this))
+{
+    setObjectName(QStringLiteral("estadios"));
+    setWindowTitle(tr("Remodelar Estadio"));
+    setAttribute(Qt::WA_StyledBackground);
+    setStyleSheet(QStringLiteral(
+        "QWidget#estadios { background-color: #0f1e3c; }"
+        "QCheckBox, QRadioButton { color: #f1f3f8; spacing: 8px; padding: 2px 0; }"
+        "QCheckBox:disabled, QRadioButton:disabled { color: #66718c; }"
+        "QGroupBox:disabled { color: #7d869c; }"
+        "QPushButton { padding: 6px 14px; border: 2px solid transparent; }"
+        "QPushButton[open=\"true\"] { background-color: #36508a; border-color: #e8a33d; }"));
+
+    for (int number = 1; number <= kBoxes; ++number)
+        m_boxes[std::size_t(number - 1)] = makeBox(number);
+
+    m_works = buildWorks();
+    m_remodel = buildRemodel();
+    m_matchDay = buildMatchDay();
+
+    // What stands beside every frame: the stadium, its picture, and the way between frames.
+    m_picture = plainLabel();
+    m_picture->setObjectName(QStringLiteral("img"));
+    m_picture->setFixedSize(kPictureSize);
+    m_picture->setPixmap(stadiumPicture(0, kPictureSize));
+    QLabel *name = value("lblEstadio", 17);
+    name->setWordWrap(true);
+    auto *facts = new QGridLayout;
+    facts->setHorizontalSpacing(10);
+    facts->addWidget(theme::fieldCaption(tr("AFORO:")), 0, 0);
+    facts->addWidget(value("lblAforo"), 0, 1);
+    facts->addWidget(theme::fieldCaption(tr("PARKING:")), 1, 0);
+    facts->addWidget(value("lblSIparking"), 1, 1);
+    facts->setColumnStretch(1, 1);
+
+    auto *works = button(QStringLiteral("cmdObras"), tr("OBRAS"));
+    auto *remodel = button(QStringLiteral("cmdRemodelar"), tr("REMODELAR"));
+    auto *matchDay = button(QStringLiteral("cmdPartido"), tr("DÍA DE PARTIDO"));
+    matchDay->setToolTip(tr("Precios de las entradas y de la publicidad, en las semanas en que juegas en casa"));
+    auto *apply = button(QStringLiteral("cmdYA"), tr("APLICAR REMODELACIÓN"), false);
+    apply->setToolTip(tr("Encarga las obras marcadas"));
+    auto *back = button(QStringLiteral("cmdVOLVER"), tr("<- VOLVER"), false);
+
+    const Level mainLevel = {{works, m_works}, {remodel, m_remodel}, {matchDay, m_matchDay}};
+    connect(works, &QPushButton::clicked, this, [mainLevel, this] { showOnly(mainLevel, m_works); });
+    connect(remodel, &QPushButton::clicked, this, [mainLevel, this] { showOnly(mainLevel, m_remodel); });
+    // Prices are set only in a week when the club plays at home; otherwise the button does
+    // nothing.
+    connect(matchDay, &QPushButton::clicked, this, [mainLevel, this] {
+        if (game::Prices::homeWeek(m_week.fixture(), m_week.career()))
+            showOnly(mainLevel, m_matchDay);
+    });
+    showOnly(mainLevel, m_works);
+    connect(apply, &QPushButton::clicked, this, &StadiumScreen::orderWorks);
+    connect(back, &QPushButton::clicked, this, &StadiumScreen::closeRequested);
+
+    auto *side = new QVBoxLayout;
+    side->setSpacing(8);
+    side->addWidget(m_picture);
+    side->addWidget(name);
+    side->addLayout(facts);
+    side->addSpacing(10);
+    for (QPushButton *widget : {works, remodel, matchDay})
+        side->addWidget(widget);
+    side->addStretch();
+    side->addWidget(apply);
+
+    auto *frames = new QVBoxLayout;
+    frames->addWidget(m_works);
+    frames->addWidget(m_remodel);
+    frames->addWidget(m_matchDay);
+
+    auto *body = new QHBoxLayout;
+    body->setSpacing(22);
+    body->addLayout(side);
+    body->addLayout(frames, 1);
+
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(back);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(24, 12, 24, 12);
+    layout->setSpacing(8);
+    layout->addWidget(theme::heading(tr("REMODELAR ESTADIO")));
+    layout->addLayout(body, 1);
+    layout->addLayout(buttons);
+    load();
+}
+
+QAbstractButton *StadiumScreen::makeBox(int number)
+{
+    QString caption;
+    if (const game::Works::Order *order = game::Works::orderOfBox(boxName(number)))
+        caption = QString::fromUtf8(order->caption);
+    for (const auto &[state, text] : kStartingStates) {
+        if (state == number)
+            caption = QString::fromUtf8(text);
+    }
+    QAbstractButton *box = nullptr;
+    if (number <= 5) {
+        box = new QRadioButton(caption);
+        (number <= 3 ? m_seats : m_parking)->addButton(box);
+    } else {
+        box = new QCheckBox(caption);
+        const int first = number < kFirstService ? kFirstEquipment : kFirstService;
+        const int last = number < kFirstService ? kFirstService - 1 : kBoxes;
+        connect(box, &QAbstractButton::clicked, this, [this, number, first, last] {
+            for (int other = first; other <= last; ++other) {
+                if (other != number)
+                    m_boxes[std::size_t(other - 1)]->setChecked(false);
+            }
+        });
+    }
+    box->setObjectName(boxName(number));
+    return box;
+}
+
+QGroupBox *StadiumScreen::buildWorks()
+{
+    QGroupBox *table = frame(QStringLiteral("Obras"), tr("Estado de las Obras"));
+    auto *grid = new QGridLayout(table);
+    grid->setContentsMargins(16, 14, 16, 10);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(5);
+    grid->addWidget(amber(tr("PRECIO")), 0, 1, Qt::AlignCenter);
+    grid->addWidget(amber(tr("SEM")), 0, 2, Qt::AlignCenter);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnMinimumWidth(1, 170);
+    grid->setColumnMinimumWidth(2, 80);
+
+    auto cell = [](const char *name, int index) {
+        QLabel *label = index < 0 ? plainLabel() : indexed::label(name, index);
+        if (index < 0)
+            label->setObjectName(QString::fromLatin1(name));
+        label->setStyleSheet(cellStyle("#10203f"));
+        return label;
+    };
+    const std::pair<int, const char *> blocks[] = {
+        {0, "GRADAS"}, {1, "PARKING"}, {2, "EQUIPAMIENTO"}, {6, "SERVICIOS"}};
+    int row = 1;
+    for (std::size_t i = 0; i < std::size(kWorksRows); ++i) {
+        for (const auto &[first, heading] : blocks) {
+            if (std::size_t(first) == i)
+                grid->addWidget(amber(QString::fromUtf8(heading)), row++, 0);
+        }
+        const WorksRow &line = kWorksRows[i];
+        QLabel *nameCell = cell(line.nameCell, line.nameIndex);
+        nameCell->setText(QString::fromUtf8(line.name));
+        QLabel *price = cell(line.priceCell, line.index);
+        price->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        QLabel *weeks = cell(line.weeksCell, line.index);
+        weeks->setAlignment(Qt::AlignCenter);
+        grid->addWidget(nameCell, row, 0);
+        grid->addWidget(price, row, 1);
+        grid->addWidget(weeks, row++, 2);
+    }
+    grid->setRowStretch(row, 1);
+    return table;
+}
+
+QGroupBox *StadiumScreen::buildRemodel()
+{
+    QGroupBox *remodel = frame(QStringLiteral("Remodelar"), tr("Remodelar"));
+    QGroupBox *seats = buildSeats();
+    QGroupBox *parking = buildParking();
+    QGroupBox *equipment = itemsFrame("Equipamiento", tr("Equipamiento"), kEquipment, m_boxes);
+    QGroupBox *services = itemsFrame("Servicios", tr("Extras"), kServices, m_boxes);
+
+    auto *reset = button(QStringLiteral("cmdReesTablecer"), tr("REESTABLECER"));
+    reset->setToolTip(tr("Quita todas las marcas"));
+    connect(reset, &QPushButton::clicked, this, &StadiumScreen::clearBoxes);
+
+    const Level level = {{button(QStringLiteral("cmdGradas"), tr("GRADAS")), seats},
+                         {button(QStringLiteral("cmdParking"), tr("PARKING")), parking},
+                         {button(QStringLiteral("cmdEquipamiento"), tr("EQUIPAMIENTO")), equipment},
+                         {button(QStringLiteral("cmdServicios"), tr("SERVICIOS")), services}};
+    auto *buttons = new QVBoxLayout;
+    buttons->setSpacing(8);
+    for (const auto &[widget, shown] : level) {
+        widget->setFixedWidth(170);
+        buttons->addWidget(widget);
+    }
+    buttons->addStretch();
+    reset->setFixedWidth(170);
+    buttons->addWidget(reset);
+
+    auto *frames = new QVBoxLayout;
+    for (const auto &[widget, shown] : level)
+        frames->addWidget(shown);
+    frames->addStretch();
+    QLabel *hint = plainLabel(tr("Marca una mejora de cada grupo y pulsa «APLICAR REMODELACIÓN». "
+                                 "Cada obra se paga cuando termina."));
+    hint->setProperty("role", QStringLiteral("hint"));
+    hint->setWordWrap(true);
+    frames->addWidget(hint);
+    linkLevel(level);
+
+    auto *layout = new QHBoxLayout(remodel);
+    layout->setContentsMargins(14, 14, 14, 12);
+    layout->setSpacing(16);
+    layout->addLayout(buttons);
+    layout->addLayout(frames, 1);
+    return remodel;
+}
+
+QGroupBox *StadiumScreen::buildSeats()
+{
+    QGroupBox *seats = frame(QStringLiteral("gradas"), tr("Gradas"));
+    // What the screen promises for each extension; the works themselves take two weeks more.
+    const char *promises[] = {"       1 Millón de €                       10 Semanas",
+                              "       5 Millones de €                   15 Semanas",
+                              "       10 Millones de €                 20 Semanas"};
+    auto *grid = new QGridLayout(seats);
+    grid->setContentsMargins(16, 16, 16, 12);
+    grid->setHorizontalSpacing(20);
+    grid->setVerticalSpacing(12);
+    for (int i = 0; i < 3; ++i) {
+        grid->addWidget(m_boxes[std::size_t(i)], i, 0);
+        QLabel *promise = plainLabel(QString::fromUtf8(promises[i]));
+        promise->setStyleSheet(QStringLiteral("color: #b9c3d8;"));
+        grid->addWidget(promise, i, 1);
+    }
+    grid->setColumnStretch(1, 1);
+    return seats;
+}
+
+QGroupBox *StadiumScreen::buildParking()
+{
+    QGroupBox *parking = frame(QStringLiteral("Parking"), tr("Parking"));
+    auto *layout = new QVBoxLayout(parking);
+    layout->setContentsMargins(16, 16, 16, 12);
+    layout->setSpacing(12);
+    layout->addWidget(m_boxes[3]);
+    layout->addWidget(m_boxes[4]);
+    return parking;
+}
+
+QGroupBox *StadiumScreen::buildMatchDay()
+{
+    QGroupBox *matchDay = frame(QStringLiteral("Entradas"), tr("Entradas"));
+    QLabel *title = amber(tr("DÍA DE PARTIDO"), 20);
+    title->setAlignment(Qt::AlignCenter);
+    QLabel *stadium = value("lblEstadio2", 16);
+    stadium->setAlignment(Qt::AlignCenter);
+    QLabel *home = value("lblEquipoLoc", 20);
+    home->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QLabel *away = value("lblEquipoVis", 20);
+    QLabel *type = amber(QString(), 15);
+    type->setObjectName(QStringLiteral("lblTipo"));
+    type->setAlignment(Qt::AlignCenter);
+    auto *fixture = new QHBoxLayout;
+    fixture->addWidget(home, 1);
+    fixture->addWidget(amber(QStringLiteral("vs"), 18));
+    fixture->addWidget(away, 1);
+
+    // A price is stepped by its buttons and written at each press; the field only shows it.
+    auto priceField = [](const char *name) {
+        auto *field = new QLineEdit;
+        field->setObjectName(QString::fromLatin1(name));
+        field->setReadOnly(true);
+        field->setFocusPolicy(Qt::NoFocus);
+        field->setAlignment(Qt::AlignCenter);
+        field->setFixedWidth(90);
+        field->setStyleSheet(QStringLiteral("font-size: 18px; font-weight: bold;"));
+        return field;
+    };
+    m_ticket = priceField("txtEntrada");
+    m_boards = priceField("txtVallas");
+    auto *cheaper = button(QStringLiteral("cmdmenos"), QStringLiteral("-"), false);
+    auto *dearer = button(QStringLiteral("cmdmas"), QStringLiteral("+"), false);
+    auto *fewer = button(QStringLiteral("cmdReducir"), QStringLiteral("-"), false);
+    auto *more = button(QStringLiteral("cmdAumentar"), QStringLiteral("+"), false);
+    cheaper->setToolTip(tr("Bajar 5 € la entrada"));
+    dearer->setToolTip(tr("Subir 5 € la entrada"));
+    fewer->setToolTip(tr("Bajar 100 € la valla"));
+    more->setToolTip(tr("Subir 100 € la valla"));
+    for (QPushButton *step : {cheaper, dearer, fewer, more})
+        step->setStyleSheet(QStringLiteral("min-width: 40px; font-size: 18px;"));
+    connect(cheaper, &QPushButton::clicked, this,
+            [this] { m_ticket->setText(QString::number(game::Prices(m_context).lowerTicket())); });
+    connect(dearer, &QPushButton::clicked, this,
+            [this] { m_ticket->setText(QString::number(game::Prices(m_context).raiseTicket())); });
+    connect(fewer, &QPushButton::clicked, this,
+            [this] { m_boards->setText(QString::number(game::Prices(m_context).lowerBoards())); });
+    connect(more, &QPushButton::clicked, this,
+            [this] { m_boards->setText(QString::number(game::Prices(m_context).raiseBoards())); });
+
+    auto *prices = new QGridLayout;
+    prices->setHorizontalSpacing(10);
+    prices->setVerticalSpacing(10);
+    auto addPrice = [prices](int row, const QString &heading, const QString &caption, QPushButton *down,
+                             QLineEdit *field, QPushButton *up) {
+        prices->addWidget(amber(heading, 15), row, 0, 1, 6);
+        prices->addWidget(theme::fieldCaption(caption), row + 1, 0);
+        prices->addWidget(down, row + 1, 1);
+        prices->addWidget(field, row + 1, 2);
+        prices->addWidget(plainLabel(QStringLiteral("€")), row + 1, 3);
+        prices->addWidget(up, row + 1, 4);
+    };
+    addPrice(0, tr("PRECIO DE LAS ENTRADAS"), tr("PRECIO:"), cheaper, m_ticket, dearer);
+    prices->setRowMinimumHeight(2, 18);
+    addPrice(3, tr("PRECIO PUBLICIDAD"), tr("PRECIO PUBLICIDAD:"), fewer, m_boards, more);
+    prices->setColumnStretch(5, 1);
+
+    auto *layout = new QVBoxLayout(matchDay);
+    layout->setContentsMargins(30, 18, 30, 14);
+    layout->setSpacing(10);
+    layout->addWidget(title);
+    layout->addWidget(stadium);
+    layout->addLayout(fixture);
+    layout->addWidget(type);
+    layout->addSpacing(20);
+    layout->addLayout(prices);
+    layout->addStretch();
+    return matchDay;
+}
+
+void StadiumScreen::load()
+{
+    const game::Works::Screen screen = game::Works(m_context).screen();
+    const QString name = screen.stadium.name;
+    findChild<QLabel *>(QStringLiteral("lblEstadio"))->setText(name);
+    findChild<QLabel *>(QStringLiteral("lblEstadio2"))->setText(name);
+    findChild<QLabel *>(QStringLiteral("lblAforo"))->setText(QString::number(screen.stadium.capacity) + tr("Asientos"));
+    findChild<QLabel *>(QStringLiteral("lblSIparking"))->setText(screen.parkingText);
+    m_picture->setPixmap(stadiumPicture(screen.picture, kPictureSize));
+
+    for (int number = 1; number <= kBoxes; ++number) {
+        QAbstractButton *box = m_boxes[std::size_t(number - 1)];
+        box->setEnabled(screen.enabledBoxes.contains(boxName(number)));
+        if (screen.tickedBoxes.contains(boxName(number)))
+            box->setChecked(true);
+    }
+    for (const QString &closed : screen.closedFrames) {
+        if (auto *group = findChild<QGroupBox *>(closed))
+            group->setEnabled(false);
+    }
+    for (const game::Works::UnderWay &work : screen.underWay)
+        showUnderWay(work);
+
+    // The match of the week, for the prices' frame.
+    const std::optional<game::Fixture> &fixture = m_week.fixture();
+    findChild<QLabel *>(QStringLiteral("lblEquipoLoc"))->setText(m_week.career().clubName);
+    findChild<QLabel *>(QStringLiteral("lblEquipoVis"))->setText(fixture ? fixture->awayName : QString());
+    findChild<QLabel *>(QStringLiteral("lblTipo"))->setText(fixture ? fixture->typeText() : QString());
+    game::Prices prices(m_context);
+    m_ticket->setText(QString::number(prices.ticket()));
+    m_boards->setText(QString::number(prices.boards()));
+}
+
+void StadiumScreen::showUnderWay(const game::Works::UnderWay &work)
+{
+    for (const WorksRow &line : kWorksRows) {
+        if (work.key != QLatin1String(line.key))
+            continue;
+        auto cellOf = [this](const char *name, int index) {
+            return index < 0 ? findChild<QLabel *>(QString::fromLatin1(name))
+                             : indexed::find(this, QString::fromLatin1(name), index);
+        };
+        QLabel *nameCell = cellOf(line.nameCell, line.nameIndex);
+        QLabel *price = cellOf(line.priceCell, line.index);
+        QLabel *weeks = cellOf(line.weeksCell, line.index);
+        // The seats' row names the seats being added; the parking's row the four parkings.
+        if (work.key == QLatin1String("gradas"))
+            nameCell->setText(work.level);
+        else if (work.key == QLatin1String("parking"))
+            nameCell->setText(tr("4 Parkings"));
+        price->setText(QString::number(work.cost));
+        weeks->setText(QString::number(work.weeksLeft));
+        nameCell->setStyleSheet(cellStyle("#c81e1e", true));
+        price->setStyleSheet(cellStyle("#000000"));
+        weeks->setStyleSheet(cellStyle("#e07b00", true));
+        return;
+    }
+}
+
+void StadiumScreen::clearBoxes()
+{
+    // A radio group keeps one of its buttons on; it lets go only while it is not exclusive.
+    for (QButtonGroup *group : {m_seats, m_parking})
+        group->setExclusive(false);
+    for (QAbstractButton *box : m_boxes)
+        box->setChecked(false);
+    for (QButtonGroup *group : {m_seats, m_parking})
+        group->setExclusive(true);
+}
+
+void StadiumScreen::orderWorks()
+{
+    // The boxes stay as they are and the screen is not read again: a work ordered now shows
+    // under way, and closes its group, the next time the screen opens.
+    QStringList ticked;
+    for (QAbstractButton *box : m_boxes) {
+        if (box->isChecked())
+            ticked << box->objectName();
+    }
+    game::Works(m_context).order(ticked);
+}
+
+} // namespace ui
