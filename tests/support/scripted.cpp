@@ -17,6 +17,7 @@ void ScriptedDialogs::tell(const QString &text, Icon icon, const QString &title)
 bool ScriptedDialogs::ask(const QString &title, const QString &text)
 {
     m_messages.push_back({text, Icon::None, title});
+    m_questions << title + QLatin1Char('|') + text;
     if (m_answers.empty())
         return false;
     const bool answer = m_answers.front();

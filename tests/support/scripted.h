@@ -40,10 +40,17 @@ public:
 
     void answer(std::initializer_list<bool> answers) { m_answers.insert(m_answers.end(), answers); }
     QStringList texts() const;
+    // Every question asked, as "title|text".
+    const QStringList &questions() const { return m_questions; }
     const std::vector<Message> &messages() const { return m_messages; }
-    void clear() { m_messages.clear(); }
+    void clear()
+    {
+        m_messages.clear();
+        m_questions.clear();
+    }
 
 private:
     std::vector<Message> m_messages;
     std::deque<bool> m_answers;
+    QStringList m_questions;
 };

@@ -1,0 +1,163 @@
+#include "careerfixture.h"
+#include "transfers/market.h"
+
+#include <algorithm>
+
+using game::Market;
+
+class MarketTest : public CareerTest
+{
+protected:
+    void SetUp() override
+    {
+        CareerTest::SetUp();
+        startCareer();
+    }
+
+    static std::vector<int> ids(const std::vector<Market::Line> &lines)
+    {
+        std::vector<int> found;
+        for (const Market::Line &line : lines)
+            found.push_back(line.id);
+        return found;
+    }
+
+    static bool has(const std::vector<Market::Line> &lines, int id)
+    {
+        return std::any_of(lines.begin(), lines.end(), [id](const Market::Line &line) { return line.id == id; });
+    }
+
+    void list(int player)
+    {
+        ASSERT_TRUE(m_store->run([&] { m_store->execute("update jugadores set venta = 1 where idjugador = ?", player); }).ok());
+    }
+
+    int firstOf(const char *position, int club)
+    {
+        return int(m_store->integer("select min(idjugador) from jugadores where Posicion = ? and idequipo = ?", position, club));
+    }
+};
+
+// Guards: a grid that lists a pivot, leaves out the user's own listed players, or puts a
+// player in the wrong group.
+TEST_F(MarketTest, theFourSaleGridsTakeEveryListedPlayerButThePivots)
+{
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("update jugadores set venta = 0"); }).ok());
+    const int keeper = firstOf("Portero", 20);
+    const int wing = firstOf("Extremo Derecho", 21);
+    const int back = firstOf("Lateral Izquierdo", 22);
+    const int centre = firstOf("Central", kClub);
+    const int pivot = firstOf("Pivote", 23);
+    for (int player : {keeper, wing, back, centre, pivot})
+        list(player);
+    Market market(*m_context);
+    EXPECT_EQ(ids(market.forSale(Market::Group::Goalkeepers)), std::vector<int>{keeper});
+    EXPECT_EQ(ids(market.forSale(Market::Group::Wings)), std::vector<int>{wing});
+    EXPECT_EQ(ids(market.forSale(Market::Group::Backs)), std::vector<int>{back});
+    EXPECT_EQ(ids(market.forSale(Market::Group::Centres)), std::vector<int>{centre});
+    for (auto group : {Market::Group::Goalkeepers, Market::Group::Wings, Market::Group::Backs, Market::Group::Centres})
+        EXPECT_FALSE(has(market.forSale(group), pivot));
+
+    // The user's squad in the same four groups, with the contracts' years; no pivot either.
+    const auto centres = market.squad(Market::Group::Centres);
+    EXPECT_TRUE(has(centres, centre));
+    EXPECT_GT(centres.front().years, 0);
+    std::size_t listed = 0;
+    for (auto group : {Market::Group::Goalkeepers, Market::Group::Wings, Market::Group::Backs, Market::Group::Centres})
+        listed += market.squad(group).size();
+    EXPECT_EQ(qint64(listed), m_store->integer("select count(*) from jugadores where idequipo = ? and Posicion <> 'Pivote'", kClub));
+}
+
+// Guards: the user's club offered to himself in Spain's list, or another country's list
+// that leaves a club out.
+TEST_F(MarketTest, spainsClubsLeaveOutTheUsersOwnAndEveryClubIsListedAtFirst)
+{
+    Market market(*m_context);
+    const QStringList spain = market.clubsOf(1);
+    const QString own = m_store->text("select NombreEquipo from equipos where idequipo = ?", kClub);
+    EXPECT_FALSE(spain.contains(own));
+    EXPECT_EQ(spain.size(), m_store->integer("select count(*) from equipos where codpais = 1") - 1);
+    EXPECT_EQ(market.clubsOf(2).size(), m_store->integer("select count(*) from equipos where codpais = 2"));
+    EXPECT_EQ(market.clubsOf(0).size(), 85);
+    EXPECT_TRUE(market.clubsOf(0).contains(own));
+    const QString club = market.clubsOf(2).front();
+    EXPECT_EQ(qint64(market.playersOf(club).size()),
+              m_store->integer("select count(*) from jugadores j join equipos e on e.idequipo = j.idequipo"
+                               " where e.NombreEquipo = ?", club));
+}
+
+struct SearchCase {
+    const char *name;
+    Market::Search criteria;
+    const char *where; // the players the search must find
+};
+
+class ScoutSearch : public MarketTest, public ::testing::WithParamInterface<SearchCase>
+{};
+
+// Guards: the scout's criteria applied in another precedence than the game's: a rating or an
+// age that should replace the position, an age that should give way to a rating, or the full
+// search that should apply all five.
+TEST_P(ScoutSearch, appliesItsCriteriaInTheGamesPrecedence)
+{
+    const SearchCase &c = GetParam();
+    const auto found = ids(Market(*m_context).search(c.criteria));
+    std::vector<int> expected;
+    {
+        auto rows = m_store->query(std::string("select idjugador from jugadores where ") + c.where + " order by idjugador");
+        while (rows.next())
+            expected.push_back(rows.integer(0));
+    }
+    EXPECT_FALSE(expected.empty());
+    EXPECT_EQ(found, expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Criteria, ScoutSearch,
+    ::testing::Values(
+        SearchCase{"nothingListsEverybody", {}, "1 = 1"},
+        SearchCase{"positionAlone", {{}, {}, QStringLiteral("Pivote"), {}, {}}, "Posicion = 'Pivote'"},
+        SearchCase{"allIsAnyPosition", {{}, {}, QStringLiteral("TODOS"), QStringLiteral("0"), {}}, "1 = 1"},
+        SearchCase{"ratingReplacesPosition", {{}, {}, QStringLiteral("Pivote"), QStringLiteral("70"), {}}, "Media = 70"},
+        SearchCase{"ratingReplacesAge", {{}, {}, {}, QStringLiteral("70"), QStringLiteral("25")}, "Media = 70"},
+        SearchCase{"ageAlone", {{}, {}, QStringLiteral("Portero"), {}, QStringLiteral("25")}, "Edad = 25"},
+        SearchCase{"blankNamesMatchAll", {QStringLiteral("  "), {}, {}, {}, QStringLiteral("25")}, "Edad = 25"},
+        SearchCase{"namePrefixIgnoringCase", {QStringLiteral("ju"), {}, {}, {}, {}}, "Nombre like 'ju%'"}),
+    [](const auto &info) { return std::string(info.param.name); });
+
+// Guards: the full search losing one of its five criteria.
+TEST_F(MarketTest, theFullSearchAppliesAllFiveCriteria)
+{
+    const int player = firstOf("Lateral Derecho", 25);
+    auto card = Market(*m_context).card(player);
+    ASSERT_TRUE(card.has_value());
+    Market::Search full{card->nombre, card->apellidos.left(3), QStringLiteral("Lateral"), QString::number(card->media),
+                        QString::number(card->edad)};
+    const auto found = Market(*m_context).search(full);
+    EXPECT_TRUE(has(found, player));
+    for (const Market::Line &line : found) {
+        EXPECT_TRUE(line.posicion.startsWith(QStringLiteral("Lateral")));
+        EXPECT_EQ(line.edad, card->edad);
+        EXPECT_EQ(line.media, card->media);
+    }
+    full.posicion = QStringLiteral("Portero");
+    EXPECT_TRUE(Market(*m_context).search(full).empty());
+}
+
+// Guards: youths of another position or club, or a card that misses the injury's name.
+TEST_F(MarketTest, theYouthPoolByPositionAndAPlayersCard)
+{
+    Market market(*m_context);
+    for (const Market::Line &youth : market.youths(QStringLiteral("Portero")))
+        EXPECT_EQ(youth.posicion, QStringLiteral("Portero"));
+    EXPECT_EQ(qint64(market.youths(QStringLiteral("Portero")).size()),
+              m_store->integer("select count(*) from jugadores where idequipo = 84 and Posicion = 'Portero'"));
+
+    const int player = firstOf("Central", kClub);
+    const auto card = market.card(player);
+    ASSERT_TRUE(card.has_value());
+    EXPECT_EQ(card->club, kClub);
+    EXPECT_EQ(card->equipo, m_store->text("select NombreEquipo from equipos where idequipo = ?", kClub));
+    EXPECT_EQ(card->lesion, m_store->text("select nombre_lesion from lesiones where idlesion = 0"));
+    EXPECT_FALSE(market.card(999999).has_value());
+}

@@ -1,0 +1,175 @@
+#include "careerfixture.h"
+#include "stadium/ledger.h"
+#include "transfers/offers.h"
+
+using game::Offers;
+
+// The user's club (4) in a given week, with that week's ledger row open, making offers for
+// a player of a club abroad.
+class OffersTest : public CareerTest
+{
+protected:
+    static constexpr int kAbroad = 17;
+
+    void SetUp() override
+    {
+        CareerTest::SetUp();
+        startCareer();
+        planSeason(0);
+        m_player = int(m_store->integer("select min(idjugador) from jugadores where idequipo = ?", kAbroad));
+        m_clause = int(m_store->integer("select Clausula_Recision from jugadores where idjugador = ?", m_player));
+        m_wage = int(m_store->integer("select Ficha from jugadores where idjugador = ?", m_player));
+        ASSERT_GT(m_clause, 0);
+        ASSERT_GT(m_wage, 0);
+    }
+
+    // Moves the career to the week and opens its ledger row, as a week's opening does.
+    void goToWeek(int week)
+    {
+        ASSERT_TRUE(m_store->run([&] {
+            m_store->execute("update datos_jugador set jornada = ?", week);
+            if (!game::Ledger(*m_store).row(week))
+                game::Ledger(*m_store).openWeek(week, kClub);
+        }).ok());
+    }
+
+    // The terms a listed player asks for: exactly what passes.
+    Offers::Terms askingTerms() const { return {m_clause, 2 * m_clause, m_wage, 3}; }
+
+    int clubOf(int player) { return int(m_store->integer("select idequipo from jugadores where idjugador = ?", player)); }
+
+    int m_player = 0;
+    int m_clause = 0;
+    int m_wage = 0;
+};
+
+// Guards: an answer before the third week, or never; equal terms refused; the shirt taken at
+// the answer instead of at the offer; the sum charged to the budget instead of the week.
+TEST_F(OffersTest, anOfferOnTheEdgeOfEveryTermIsSignedThreeWeeksLater)
+{
+    goToWeek(5);
+    const int shirt = int(m_store->integer("select max(Dorsal) from jugadores where idequipo = ?", kClub)) + 1;
+    ASSERT_TRUE(Offers(*m_context).make(m_player, askingTerms()));
+    EXPECT_EQ(count("selects"), 1);
+    EXPECT_TRUE(m_dialogs.texts().isEmpty()); // nothing is said when an offer is made
+    for (int week = 6; week <= 7; ++week) {
+        goToWeek(week);
+        EXPECT_EQ(Offers(*m_context).settleDue().signings, 0) << week;
+        EXPECT_EQ(count("selects"), 1) << week;
+    }
+    goToWeek(8);
+    const qint64 budget = m_store->integer("select presupuesto from infoteams where idequipo = ?", kClub);
+    const QString club = m_store->text("select NombreEquipo from equipos where idequipo = ?", kAbroad);
+    const QString nombre = m_store->text("select Nombre from jugadores where idjugador = ?", m_player);
+    EXPECT_EQ(Offers(*m_context).settleDue().signings, 1);
+    EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("Has Fichado a %1 del %2").arg(nombre, club)});
+    EXPECT_EQ(m_dialogs.messages().back().icon, game::Dialogs::Icon::Information);
+    EXPECT_EQ(dump("selects"), QString());
+    EXPECT_EQ(m_store->text("select idequipo || '|' || Dorsal || '|' || Ficha || '|' || Clausula_Recision || '|' || venta"
+                            " || '|' || \"Años_Contrato\" from jugadores where idjugador = ?",
+                            m_player),
+              QStringLiteral("%1|%2|%3|%4|0|3").arg(kClub).arg(shirt).arg(m_wage).arg(2 * m_clause));
+    EXPECT_EQ(game::Ledger(*m_store).row(8)->fichajes, m_clause);
+    EXPECT_EQ(m_store->integer("select presupuesto from infoteams where idequipo = ?", kClub), budget);
+}
+
+struct Refusal {
+    const char *name;
+    int oferta, clausula, ficha; // added to the terms that pass
+    const char *message;         // %1 the player's name, %2 his club's
+    game::Dialogs::Icon icon;
+};
+
+class OfferRefusal : public OffersTest, public ::testing::WithParamInterface<Refusal>
+{};
+
+// Guards: the tests run in the wrong order, or on, after the first refusal; a refused offer
+// that moves the player, charges the ledger or stays to be answered again.
+TEST_P(OfferRefusal, showsOnlyTheFirstRefusalAndLeavesThePlayerWhereHeIs)
+{
+    const Refusal &refusal = GetParam();
+    goToWeek(2);
+    Offers::Terms terms = askingTerms();
+    terms.oferta += refusal.oferta;
+    terms.clausula += refusal.clausula;
+    terms.ficha += refusal.ficha;
+    ASSERT_TRUE(Offers(*m_context).make(m_player, terms));
+    goToWeek(5);
+    const auto settled = Offers(*m_context).settleDue();
+    EXPECT_EQ(settled.signings, 0);
+    EXPECT_EQ(settled.refusals, 1);
+    const QString nombre = m_store->text("select Nombre from jugadores where idjugador = ?", m_player);
+    const QString club = m_store->text("select NombreEquipo from equipos where idequipo = ?", kAbroad);
+    ASSERT_EQ(m_dialogs.messages().size(), 1u);
+    EXPECT_EQ(m_dialogs.texts().front(), QString::fromUtf8(refusal.message).replace(QStringLiteral("%1"), nombre).replace(QStringLiteral("%2"), club));
+    EXPECT_EQ(m_dialogs.messages().front().icon, refusal.icon);
+    EXPECT_EQ(clubOf(m_player), kAbroad);
+    EXPECT_EQ(count("selects"), 0);
+    EXPECT_EQ(game::Ledger(*m_store).row(5)->fichajes, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Terms, OfferRefusal,
+    ::testing::Values(
+        // Below the clause the club refuses, however good the rest: its message alone.
+        Refusal{"club", -1, +1000, +1000, "El %2 Ha rechazado su Oferta", game::Dialogs::Icon::Information},
+        Refusal{"wage", 0, 0, -1, "%1 Ha rechazado su Oferta porque no está deacuedo con su Ficha",
+                game::Dialogs::Icon::None},
+        Refusal{"clause", 0, +1, 0, "%1 Ha rechazado su Oferta porque no está deacuedo con su Clausula de Rescisión",
+                game::Dialogs::Icon::None}),
+    [](const auto &info) { return std::string(info.param.name); });
+
+// Guards: one answer for two offers, a refusal that removes the other offer, or an offer of
+// nothing for the club that is answered instead of staying.
+TEST_F(OffersTest, eachOfferDueIsAnsweredOnItsOwnAndAnOfferOfNothingStays)
+{
+    goToWeek(1);
+    Offers::Terms low = askingTerms();
+    low.oferta -= 1;
+    const int other = int(m_store->integer("select max(idjugador) from jugadores where idequipo = ?", kAbroad));
+    const int otherClause = int(m_store->integer("select Clausula_Recision from jugadores where idjugador = ?", other));
+    const int otherWage = int(m_store->integer("select Ficha from jugadores where idjugador = ?", other));
+    Offers offers(*m_context);
+    ASSERT_TRUE(offers.make(m_player, low));
+    ASSERT_TRUE(offers.make(other, {otherClause, otherClause, otherWage, 2}));
+    Offers::Terms nothing = askingTerms();
+    nothing.oferta = 0;
+    ASSERT_TRUE(offers.make(m_player, nothing));
+
+    goToWeek(4);
+    const auto settled = offers.settleDue();
+    EXPECT_EQ(settled.refusals, 1);
+    EXPECT_EQ(settled.signings, 1);
+    EXPECT_EQ(m_dialogs.messages().size(), 2u);
+    EXPECT_EQ(clubOf(m_player), kAbroad);
+    EXPECT_EQ(clubOf(other), kClub);
+    EXPECT_EQ(m_store->integer("select count(*) from selects where oferta = 0 and jugador = ?", m_player), 1);
+    EXPECT_EQ(count("selects"), 1);
+}
+
+// Guards: sums that overflow the game's money wrapping round into small or negative offers,
+// and a years box read as a number it does not hold.
+TEST(OfferTerms, readTheBoxesAsTheGameKeepsThemAndRefuseSumsTooLarge)
+{
+    ScriptedDialogs dialogs;
+    const auto typed = Offers::termsFrom(QStringLiteral("1.000 €"), QString(), QStringLiteral("2147483647 €"),
+                                         QStringLiteral("6"), dialogs);
+    ASSERT_TRUE(typed.has_value());
+    EXPECT_EQ(typed->oferta, 1000);
+    EXPECT_EQ(typed->clausula, 1); // an empty box is 1 €
+    EXPECT_EQ(typed->ficha, 2147483647);
+    EXPECT_EQ(typed->years, 6);
+    for (const char *years : {"7", "0", "tres", ""})
+        EXPECT_EQ(Offers::termsFrom(QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("1"),
+                                    QString::fromUtf8(years), dialogs)->years,
+                  1)
+            << years;
+    EXPECT_TRUE(dialogs.texts().isEmpty());
+
+    for (const char *tooLarge : {"2147483648 €", "99999999999999999999 €"}) {
+        EXPECT_FALSE(Offers::termsFrom(QString::fromUtf8(tooLarge), QStringLiteral("1"), QStringLiteral("1"),
+                                       QStringLiteral("1"), dialogs)
+                         .has_value());
+    }
+    EXPECT_EQ(dialogs.texts().size(), 2);
+}
