@@ -2,9 +2,11 @@
 // buttons, the titles of the window, ten weeks in a row and a match of very long names.
 
 #include "career/weekpanel.h"
+#include "common/indexedlabel.h"
 #include "match/matchscreen.h"
 #include "screenfixture.h"
 
+#include <QCheckBox>
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QTableView>
@@ -236,6 +238,89 @@ TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowKeepTheirCountAndTheirSize)
     EXPECT_EQ(m_store->integer("select count(*) from liga_asobal where jornada <= 10"
                                " and goles_equipo_local + goles_equipo_visitante > 0"),
               80);
+}
+
+// Guards: the stadium and its money as a player lives them in the window going wrong
+// between screens: a work ordered that never ends or ends early, its cost missing from the
+// ledger, a price set on match day that the gate does not use, a broadcast that pays
+// nothing.
+TEST_F(NavigatorScreens, aWorkOrderedInTheWindowEndsWeeksLaterAndTheMoneyReachesTheLedger)
+{
+    reachFirstLeagueWeek(); // Valencia: toilets at the second level, a shop already built
+    int broadcasts = 0;
+    auto takeBroadcast = [&] {
+        if (m_navigator->screen(QStringLiteral("Tele"))) {
+            click(QStringLiteral("cmdOK"));
+            ++broadcasts;
+        }
+    };
+    takeBroadcast();
+
+    click(QStringLiteral("cmdEstadio"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("estadios"));
+    click(QStringLiteral("cmdRemodelar"));
+    click(QStringLiteral("cmdServicios"));
+    click(QStringLiteral("cmdWc"));
+    auto *toilets = find<QCheckBox>(QStringLiteral("Option26")); // "40 Lavabos": three weeks
+    ASSERT_NE(toilets, nullptr);
+    ASSERT_TRUE(toilets->isEnabled());
+    toilets->click();
+    m_dialogs.clear();
+    click(QStringLiteral("cmdYA"));
+    EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("Las Obras Empezarán en la Jornada Actual")});
+    click(QStringLiteral("cmdVOLVER"));
+
+    const QString finished = QStringLiteral("Las Obras de La mejora de las LAVABOS Han Terminado");
+    bool pricedAHomeMatch = false;
+    for (int week = 1; week <= 3; ++week) {
+        const auto &fixture = m_navigator->week().fixture();
+        ASSERT_TRUE(fixture.has_value());
+        const bool home = fixture->homeId == club();
+        if (home && !pricedAHomeMatch) {
+            // Match day at home: the ticket goes up one step before the match.
+            click(QStringLiteral("cmdEstadio"));
+            click(QStringLiteral("cmdPartido"));
+            EXPECT_TRUE(find(QStringLiteral("Entradas"))->isVisible());
+            click(QStringLiteral("cmdmas"));
+            EXPECT_EQ(m_store->integer("select precio_entrada from entradas where idPrecio = 1"), 15);
+            click(QStringLiteral("cmdVOLVER"));
+        }
+        click(QStringLiteral("cmdSeguir"));
+        if (week == 1)
+            callUpFirstFourteen();
+        click(QStringLiteral("cmdJugar"));
+        ASSERT_NE(match(), nullptr) << week;
+        if (home && !pricedAHomeMatch) {
+            // The crowd pays the price just set.
+            const QString entry = find<QLabel>(QStringLiteral("lblEntrada"))->text();
+            const int attendance = entry.section(QLatin1Char(' '), 1, 1).toInt();
+            ASSERT_GT(attendance, 0) << entry.toStdString();
+            EXPECT_EQ(find<QLabel>(QStringLiteral("lblRecaudacion1"))->text(),
+                      QStringLiteral("RECAUDACIÓN: %1 €").arg(attendance * 15));
+            pricedAHomeMatch = true;
+        }
+        playHalf();
+        playHalf();
+        m_dialogs.clear();
+        click(QStringLiteral("cmdSalir"));
+        settle();
+        panel()->runWeekEvents();
+        settle();
+        takeBroadcast();
+        // The work ends at the opening of the week it was ordered in plus its three weeks.
+        EXPECT_EQ(m_dialogs.texts().contains(finished), week == 3) << week;
+        EXPECT_EQ(m_store->integer("select lavabos from estadios where idequipo = ?", club()), week == 3 ? 3 : 2) << week;
+    }
+    EXPECT_TRUE(pricedAHomeMatch);
+    EXPECT_EQ(count("selects"), 0);
+
+    click(QStringLiteral("cmdCaja"));
+    QWidget *ledger = m_navigator->current();
+    ASSERT_EQ(ledger->objectName(), QStringLiteral("Caja"));
+    EXPECT_EQ(indexed::find(ledger, QStringLiteral("lblRemodelar"), 0)->text(), QStringLiteral("612000 €"));
+    EXPECT_EQ(indexed::find(ledger, QStringLiteral("lblTelevision"), 1)->text(),
+              QStringLiteral("%1 €").arg(qint64(broadcasts) * 450000));
+    screenshot(QStringLiteral("ledger_works_finished"));
 }
 
 // Guards: forty-letter names of players and a very long rival club widening the match
