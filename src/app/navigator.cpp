@@ -45,7 +45,7 @@ QWidget *Navigator::current() const
     return m_stack->currentWidget();
 }
 
-QWidget *Navigator::open(const QString &name)
+QWidget *Navigator::open(const QString &name, const QVariant &about)
 {
     const auto kind = m_kinds.constFind(name);
     if (kind == m_kinds.constEnd())
@@ -72,6 +72,8 @@ QWidget *Navigator::open(const QString &name)
     }
     if (kind->opened)
         kind->opened(*this, screen);
+    if (screen && about.isValid() && kind->about)
+        kind->about(*this, screen, about);
     if (!screen)
         return nullptr; // its opening closed it again
     switch (kind->mode) {

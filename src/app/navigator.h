@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QStringList>
 #include <QUrl>
+#include <QVariant>
 #include <QWidget>
 
 #include <functional>
@@ -41,6 +42,9 @@ struct ScreenKind
     std::function<QWidget *(Navigator &)> make;
     // Runs at every opening, the first included, before the screen is shown.
     std::function<void(Navigator &, QWidget *)> opened;
+    // Runs after `opened` when the screen is opened about something, such as the player
+    // picked on a list: open(u"Fichar_Jugadores"_s, id).
+    std::function<void(Navigator &, QWidget *, const QVariant &)> about;
 };
 
 // Opens and closes the screens of the game and leads the career from week to week. The
@@ -62,7 +66,7 @@ public:
 
     // Opens a registered screen by name and shows it as its kind says; null when there is no
     // such screen or it cannot open now.
-    QWidget *open(const QString &name);
+    QWidget *open(const QString &name, const QVariant &about = {});
     // Hides or ends a screen, as its kind says; a page gives way to the one it covered.
     void close(const QString &name);
     // The screen of that name while it exists, else null.
