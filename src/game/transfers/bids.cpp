@@ -7,6 +7,7 @@
 #include "store/gamestore.h"
 
 #include <QObject>
+#include <QSet>
 
 namespace game {
 
@@ -17,11 +18,18 @@ Bids::Outcome Bids::run()
     Outcome outcome = Outcome::NoBid;
     const Result done = store.run([&] {
         const CareerRow career = Career::read(store);
+        // The club's listed players are read once; the draws then look among them.
+        QSet<int> listed;
+        {
+            GameStore::Query rows = store.query("select idjugador from jugadores where venta = 1 and idequipo = ?",
+                                                career.club);
+            while (rows.next())
+                listed.insert(rows.integer(0));
+        }
         int player = 0;
         for (int draw = 0; draw < kDraws && player == 0; ++draw) {
             const int id = chance.draw(kHighestDrawnPlayer);
-            if (store.integer("select count(*) from jugadores where venta = 1 and idequipo = ? and idjugador = ?",
-                              career.club, id) == 1)
+            if (listed.contains(id))
                 player = id;
         }
         if (player == 0)
