@@ -39,6 +39,8 @@ CREATE TABLE jugadores (
     "Años_Contrato"   INTEGER NOT NULL
 );
 CREATE INDEX jugadores_por_equipo ON jugadores (idequipo, Posicion, Media);
+-- The market's lists read the few players on sale among all of them.
+CREATE INDEX jugadores_en_venta ON jugadores (venta) WHERE venta = 1;
 
 CREATE TABLE lesiones (
     idlesion      INTEGER PRIMARY KEY,

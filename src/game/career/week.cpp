@@ -6,16 +6,25 @@
 #include "stadium/ledger.h"
 #include "stadium/television.h"
 #include "stadium/works.h"
+#include "transfers/bids.h"
+#include "transfers/offers.h"
 #include "store/gamestore.h"
 
 namespace game {
 
 Week::Week(Context context) : Week(context, WeekEvents::standard(context))
 {
-    // The stadium and the television report to this week: the works that ended and the
-    // channel waiting for the player's OK.
+    // The offers, the stadium, the bids and the television report to this week: what they
+    // brought, and the channel waiting for the player's OK.
+    m_events.set(WeekEvents::Step::Offers, [this](const std::optional<Fixture> &) {
+        const Offers::Settled settled = Offers(m_context).settleDue();
+        m_news.signings = settled.signings;
+        m_news.refusals = settled.refusals;
+    });
     m_events.set(WeekEvents::Step::Stadium,
-                 [this](const std::optional<Fixture> &) { m_worksFinished = Works(m_context).runWeek(); });
+                 [this](const std::optional<Fixture> &) { m_news.worksFinished = Works(m_context).runWeek(); });
+    m_events.set(WeekEvents::Step::Bids,
+                 [this](const std::optional<Fixture> &) { m_news.sale = Bids(m_context).run() == Bids::Outcome::Sold; });
     m_events.set(WeekEvents::Step::Television,
                  [this](const std::optional<Fixture> &fixture) { m_broadcast = Television(m_context).run(fixture); });
 }
@@ -66,7 +75,7 @@ void Week::close()
     m_gatePosted = false;
     m_played = false;
     m_broadcast.reset();
-    m_worksFinished = 0;
+    m_news = {};
 }
 
 void Week::runEvents()

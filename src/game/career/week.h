@@ -89,8 +89,15 @@ public:
     // broadcast stays, to be acknowledged again).
     bool acceptBroadcast();
 
-    // What the week's stadium event did: the works that ended this week.
-    int worksFinished() const { return m_worksFinished; }
+    // What the week's events brought: works that ended, offers answered, a player sold.
+    struct News
+    {
+        int worksFinished = 0;
+        int signings = 0;
+        int refusals = 0;
+        bool sale = false;
+    };
+    const News &news() const { return m_news; }
 
 private:
     Context m_context;
@@ -104,7 +111,7 @@ private:
     bool m_gatePosted = false;
     bool m_played = false;
     std::optional<QString> m_broadcast;
-    int m_worksFinished = 0;
+    News m_news;
 };
 
 } // namespace game

@@ -3,16 +3,53 @@
 #include "career/leagueclubs.h"
 #include "career/newcareer.h"
 #include "career/preseason.h"
+#include "dialogs.h"
 #include "match/callup.h"
 #include "random.h"
 #include "stadium/ledger.h"
 #include "stadium/prices.h"
 #include "stadium/works.h"
 #include "store/gamestore.h"
+#include "transfers/contracts.h"
+#include "transfers/market.h"
+#include "transfers/offers.h"
 
 #include <QSet>
 
 namespace game {
+
+namespace {
+
+// The manager's answers: with a busy one every bid for a player is a Yes; the rest is
+// answered as the game's own dialogs answer it.
+class ManagersAnswers final : public Dialogs
+{
+public:
+    ManagersAnswers(Dialogs &inner, bool sells) : m_inner(inner), m_sells(sells) {}
+
+    void tell(const QString &text, Icon icon, const QString &title) override { m_inner.tell(text, icon, title); }
+    bool ask(const QString &title, const QString &text) override
+    {
+        const bool answer = m_inner.ask(title, text);
+        return m_sells && title == QStringLiteral("Oferta") ? true : answer;
+    }
+
+private:
+    Dialogs &m_inner;
+    bool m_sells;
+};
+
+constexpr int kSquadToKeep = 16;
+
+} // namespace
+
+AutoSeason::AutoSeason(Context context, Options options)
+    : m_answers(std::make_unique<ManagersAnswers>(context.dialogs, options.policy == Policy::Busy)),
+      m_context{context.store, context.random, *m_answers}, m_options(options), m_week(m_context)
+{
+}
+
+AutoSeason::~AutoSeason() = default;
 
 bool AutoSeason::begin()
 {
@@ -62,7 +99,10 @@ bool AutoSeason::playWeekBody()
         return false;
     ++m_totals.weeks;
     m_week.runEvents();
-    m_totals.worksFinished += m_week.worksFinished();
+    m_totals.worksFinished += m_week.news().worksFinished;
+    m_totals.signings += m_week.news().signings;
+    m_totals.refusals += m_week.news().refusals;
+    m_totals.sales += m_week.news().sale ? 1 : 0;
     Ledger ledger(m_context.store);
     // Before the match the shop is the only income of its column; the cafeterias come with
     // the crowd.
@@ -107,6 +147,9 @@ void AutoSeason::actBusy()
     if (m_week.broadcast() && m_week.acceptBroadcast())
         m_totals.tvIncome += Ledger::kTelevisionFee;
     orderCheapestWorks();
+    makeAnOffer();
+    listASpareMan();
+    renewAShortContract();
     if (Prices::homeWeek(m_week.fixture(), m_week.career())) {
         Prices prices(m_context);
         if (prices.ticket() < Prices::kTicketHighest)
@@ -140,6 +183,54 @@ void AutoSeason::orderCheapestWorks()
     }
     if (!boxes.isEmpty())
         m_totals.worksOrdered += works.order(boxes);
+}
+
+void AutoSeason::makeAnOffer()
+{
+    // A listed player of another club, drawn among the four lists, at the terms he asks.
+    const int club = m_week.career().club;
+    Market market(m_context);
+    std::vector<int> candidates;
+    for (const Market::Group group :
+         {Market::Group::Goalkeepers, Market::Group::Wings, Market::Group::Backs, Market::Group::Centres}) {
+        for (const Market::Line &line : market.forSale(group)) {
+            if (line.club != club)
+                candidates.push_back(line.id);
+        }
+    }
+    if (candidates.empty())
+        return;
+    const int player = candidates[std::size_t(m_context.random.draw(int(candidates.size())) - 1)];
+    const std::optional<Market::Card> card = market.card(player);
+    if (card && Offers(m_context).make(player, {card->clausula, card->clausula, card->ficha, 5}))
+        ++m_totals.offersMade;
+}
+
+void AutoSeason::listASpareMan()
+{
+    GameStore &store = m_context.store;
+    const int club = m_week.career().club;
+    if (store.integer("select count(*) from jugadores where idequipo = ?", club) <= kSquadToKeep)
+        return;
+    const int weakest = int(store.integer("select idjugador from jugadores where idequipo = ? and venta = 0"
+                                          " order by Media, idjugador limit 1",
+                                          club));
+    if (weakest > 0)
+        Contracts(m_context).toggleListing(weakest);
+}
+
+void AutoSeason::renewAShortContract()
+{
+    GameStore &store = m_context.store;
+    const int club = m_week.career().club;
+    const int player = int(store.integer("select min(idjugador) from jugadores where idequipo = ?"
+                                         " and \"Años_Contrato\" <= 1",
+                                         club));
+    if (player == 0)
+        return;
+    const std::optional<Market::Card> card = Market(m_context).card(player);
+    if (card && Contracts(m_context).renew(player, {card->clausula, card->ficha + Contracts::kWageRise, 1}))
+        ++m_totals.renewals;
 }
 
 } // namespace game

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace game {
@@ -16,7 +17,9 @@ namespace game {
 // A quiet manager only plays his matches. A busy one also runs the club the way an eager
 // player would: whenever a group of the stadium has no work under way he orders its cheapest
 // work on offer, before each home match he puts the ticket up a step until it reaches the
-// top, and he takes every broadcast television offers.
+// top, and he takes every broadcast television offers. In the market he makes one offer a
+// week for a listed player at the player's own terms, lists his weakest man while the squad
+// has more than sixteen, sells to every bid, and renews a contract down to its last year.
 //
 //   AutoSeason season(context, {.club = 4, .friendlies = 2, .policy = AutoSeason::Policy::Busy});
 //   season.begin();
@@ -44,9 +47,16 @@ public:
         qint64 tvIncome = 0;   // broadcast fees booked
         qint64 shopIncome = 0; // the club shop's weekly takings
         qint64 gateIncome = 0; // tickets and boards of the user's home matches
+        int offersMade = 0;
+        int signings = 0;
+        int refusals = 0;
+        int sales = 0;
+        int renewals = 0;
+        int dismissals = 0;
     };
 
-    AutoSeason(Context context, Options options) : m_context(context), m_options(options), m_week(context) {}
+    AutoSeason(Context context, Options options);
+    ~AutoSeason();
 
     // Starts the career and plans the pre-season: the first friendlies against clubs drawn
     // from the other countries, the rest declined. False when that failed.
@@ -65,7 +75,12 @@ private:
     // What a busy manager does once the week's events have run, before the match.
     void actBusy();
     void orderCheapestWorks();
+    void makeAnOffer();
+    void listASpareMan();
+    void renewAShortContract();
 
+    // How the manager answers: a busy one sells every player a club bids for.
+    std::unique_ptr<Dialogs> m_answers;
     Context m_context;
     Options m_options;
     Week m_week;

@@ -10,7 +10,7 @@ namespace {
 
 // The columns every list reads, in Line's order.
 constexpr const char *kColumns = "select idjugador, Nombre, Apellidos, Edad, Posicion, Media, Dorsal, Nacionalidad,"
-                                 " \"Años_Contrato\" from jugadores ";
+                                 " \"Años_Contrato\", idequipo from jugadores ";
 
 template<typename... Args>
 std::vector<Market::Line> linesOf(GameStore &store, const std::string &where, const Args &...args)
@@ -20,7 +20,7 @@ std::vector<Market::Line> linesOf(GameStore &store, const std::string &where, co
         GameStore::Query rows = store.query(kColumns + where, args...);
         while (rows.next()) {
             lines.push_back({rows.integer(0), rows.text(1), rows.text(2), rows.integer(3), rows.text(4),
-                             rows.integer(5), rows.integer(6), rows.text(7), rows.integer(8)});
+                             rows.integer(5), rows.integer(6), rows.text(7), rows.integer(8), rows.integer(9)});
         }
     });
     return lines;

@@ -31,6 +31,7 @@ public:
         int dorsal = 0;
         QString nacionalidad;
         int years = 0;   // Años_Contrato
+        int club = 0;    // idequipo
     };
 
     // The four grids by position group. No grid lists pivots: a listed pivot is reached

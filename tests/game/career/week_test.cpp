@@ -337,7 +337,7 @@ TEST_F(WeekTest, theStandardEventsTellTheLoadingMessageEveryWeekAndEndTheWorks)
         ASSERT_TRUE(week.open());
         EXPECT_EQ(week.fixture().has_value(), number != 2);
         week.runEvents();
-        EXPECT_EQ(week.worksFinished(), number == 5 ? 1 : 0) << number;
+        EXPECT_EQ(week.news().worksFinished, number == 5 ? 1 : 0) << number;
         EXPECT_EQ(m_dialogs.texts().last(), loading) << number;
         EXPECT_EQ(game::Ledger(*m_store).row(number)->tiendas, 1000) << number;
     }
@@ -345,5 +345,5 @@ TEST_F(WeekTest, theStandardEventsTellTheLoadingMessageEveryWeekAndEndTheWorks)
     EXPECT_TRUE(m_dialogs.texts().contains(QStringLiteral("Las Obras de La mejora de las ENFERMERIA Han Terminado")));
     EXPECT_EQ(game::Ledger(*m_store).row(5)->remodelaciones, 60000);
     ASSERT_TRUE(week.open());
-    EXPECT_EQ(week.worksFinished(), 0);
+    EXPECT_EQ(week.news().worksFinished, 0);
 }
