@@ -114,6 +114,16 @@ bool Offers::make(int player, const Terms &terms)
 
 Offers::Settled Offers::settleDue()
 {
+    return settle(false);
+}
+
+Offers::Settled Offers::settleAllAtClose()
+{
+    return settle(true);
+}
+
+Offers::Settled Offers::settle(bool seasonClose)
+{
     GameStore &store = m_context.store;
     Settled settled;
     struct Due
@@ -126,13 +136,16 @@ Offers::Settled Offers::settleDue()
     };
     const Result done = store.run([&] {
         const CareerRow career = Career::read(store);
-        // Read first, so that no read of selects is open while its rows go.
+        // Read first, so that no read of selects is open while its rows go. During the season
+        // the offers made three weeks ago are due; at its close every offer is, however young.
         std::vector<Due> due;
         {
-            GameStore::Query rows = store.query(
-                "select \"select\", oferta, clausula, ficha, jugador from selects where jornada = ? and oferta <> 0"
-                " order by rowid",
-                career.week - kWeeksToAnswer);
+            GameStore::Query rows = seasonClose
+                ? store.query("select \"select\", oferta, clausula, ficha, jugador from selects where oferta <> 0"
+                              " order by rowid")
+                : store.query("select \"select\", oferta, clausula, ficha, jugador from selects where jornada = ?"
+                              " and oferta <> 0 order by rowid",
+                              career.week - kWeeksToAnswer);
             while (rows.next())
                 due.push_back({rows.text(0), rows.integer(1), rows.integer(2), rows.integer(3), rows.integer(4)});
         }
@@ -175,7 +188,15 @@ Offers::Settled Offers::settleDue()
                     m_context.dialogs.tell(QStringLiteral("Has Fichado a ") + nombre + QStringLiteral(" del ") + club,
                                            Dialogs::Icon::Information);
                     store.attempt([&] { applyOrder(store, offer.order); });
-                    store.attempt([&] { Ledger(store).postSigning(career.week, offer.oferta); });
+                    // In the season the week's row pays; at its close the ledger is gone and
+                    // the budget pays.
+                    store.attempt([&] {
+                        if (seasonClose)
+                            store.execute("update infoteams set presupuesto = presupuesto - ? where idequipo = ?",
+                                          offer.oferta, career.club);
+                        else
+                            Ledger(store).postSigning(career.week, offer.oferta);
+                    });
                     ++settled.signings;
                 } else {
                     ++settled.refusals;

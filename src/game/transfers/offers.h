@@ -55,8 +55,12 @@ public:
         int refusals = 0;
     };
     Settled settleDue();
+    // The season's close: every offer waiting, however young, is answered the same way, and
+    // a yes is paid out of the budget, the season's ledger being gone.
+    Settled settleAllAtClose();
 
 private:
+    Settled settle(bool seasonClose);
     Context m_context;
 };
 

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "context.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace game {
+
+// The close of a season, at the opening of the week after the calendar's last. The league is
+// ranked into both place columns of asobal, the champion 16 and the last club 1 (the new
+// previous place is each club's slot in next season's fixtures); the season's calendar,
+// counters, goals, week and ledger are emptied, all in one transaction. Then the verdict is
+// shown, and every order still waiting is settled at once: works end at the budget's cost,
+// offers are answered and a yes is paid from the budget. The planner of the next season
+// follows. There is no promotion or relegation: the two bottom clubs are only named.
+//
+//   SeasonClose close(context);
+//   if (auto verdict = close.close()) { show(*verdict); close.settleQueue(); planner.begin(); }
+class SeasonClose
+{
+public:
+    struct Verdict
+    {
+        int champion = 0;
+        QString championName;
+        QString last;        // place 1: "Desciende:" and "Compra Plaza:"
+        QString secondLast;  // place 2
+        int userPlace = 0;   // as stored: 16 for the champion, 1 for the last
+    };
+
+    explicit SeasonClose(Context context) : m_context(context) {}
+
+    // Ranks and empties the season in one transaction. The verdict, or nothing when the
+    // store failed (the player has been told and the season stands as it was).
+    std::optional<Verdict> close();
+
+    // The verdict as the places stand.
+    Verdict verdict();
+
+    // Every order still waiting is settled, with its messages, and the pre-season is emptied
+    // for the planner. Returns the orders settled.
+    int settleQueue();
+
+private:
+    Context m_context;
+};
+
+} // namespace game

@@ -1,0 +1,115 @@
+#include "career/seasonclose.h"
+#include "careerfixture.h"
+#include "match/season.h"
+#include "stadium/works.h"
+#include "transfers/offers.h"
+
+using game::SeasonClose;
+
+// A season of club 4 played to its end by the headless manager, with the next week opened:
+// the season is over and waits for its close.
+class SeasonCloseTest : public StoreTest
+{
+protected:
+    static constexpr int kClub = 4;
+
+    void playSeason()
+    {
+        m_random = ScriptedRandom(41);
+        game::AutoSeason season(*m_context, {kClub, 2});
+        ASSERT_TRUE(season.begin());
+        int weeks = 0;
+        while (season.playWeek())
+            ASSERT_LT(++weeks, 40);
+        ASSERT_TRUE(season.failure().isEmpty()) << season.failure().toStdString();
+        ASSERT_EQ(m_store->integer("select jornada from datos_jugador"), 33);
+        m_dialogs.clear();
+    }
+
+    // Sets one club's line of the table.
+    void setLine(int club, int points, int against)
+    {
+        ASSERT_TRUE(m_store->run([&] {
+            m_store->execute("update asobal set Puntos = ?, Goles_Contra = ? where teams = ?", points, against, club);
+        }).ok());
+    }
+
+    qint64 budget() { return m_store->integer("select presupuesto from infoteams where idequipo = ?", kClub); }
+};
+
+// Guards: the ranking written upside down, ties broken on goals scored or at random, or a
+// season that keeps its calendar, counters, goals, week or ledger.
+TEST_F(SeasonCloseTest, ranksTheChampionSixteenAndEmptiesTheSeason)
+{
+    playSeason();
+    ASSERT_FALSE(HasFatalFailure());
+    // Points first, then fewer goals against, then the club's id.
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("update asobal set Puntos = 10, Goles_Contra = 500"); }).ok());
+    setLine(9, 60, 700);  // most points: champion whatever it conceded
+    setLine(3, 50, 400);  // level on points with 5, fewer against: above it
+    setLine(5, 50, 450);
+    setLine(12, 0, 100);  // level on points and against with 14: the lower id first
+    setLine(14, 0, 100);
+
+    const auto verdict = SeasonClose(*m_context).close();
+    ASSERT_TRUE(verdict.has_value());
+    auto placeOf = [&](int club) {
+        return m_store->integer("select puesto_anterior * 100 + Puesto_Actual from asobal where teams = ?", club);
+    };
+    EXPECT_EQ(placeOf(9), 1616);
+    EXPECT_EQ(placeOf(3), 1515);
+    EXPECT_EQ(placeOf(5), 1414);
+    EXPECT_EQ(placeOf(12), 202);
+    EXPECT_EQ(placeOf(14), 101);
+    EXPECT_EQ(m_store->integer("select count(distinct puesto_anterior) from asobal"), 16);
+
+    EXPECT_EQ(verdict->champion, 9);
+    EXPECT_EQ(verdict->championName, m_store->text("select NombreEquipo from equipos where idequipo = 9"));
+    EXPECT_EQ(verdict->last, m_store->text("select NombreEquipo from equipos where idequipo = 14"));
+    EXPECT_EQ(verdict->secondLast, m_store->text("select NombreEquipo from equipos where idequipo = 12"));
+    EXPECT_EQ(verdict->userPlace, m_store->integer("select puesto_anterior from asobal where teams = ?", kClub));
+
+    for (const char *table : {"calendario", "caja"})
+        EXPECT_EQ(count(table), 0) << table;
+    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 0);
+    EXPECT_EQ(m_store->integer("select sum(Puntos + Goles_Favor + Goles_Contra + \"Partidos_ Ganados\") from asobal"), 0);
+    EXPECT_EQ(m_store->integer("select sum(goles_equipo_local + goles_equipo_visitante) from liga_asobal"), 0);
+    EXPECT_TRUE(m_dialogs.texts().isEmpty());
+}
+
+// Guards: orders left for a season that no longer has their week: an offer of the last week
+// that waits three more weeks, works that keep their weeks or are charged to a ledger that is
+// gone, or a message missing.
+TEST_F(SeasonCloseTest, settlesEveryOrderAtOnceFromTheBudget)
+{
+    playSeason();
+    ASSERT_FALSE(HasFatalFailure());
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("delete from selects"); }).ok());
+    // Two works and, in the last week, an offer the player's terms accept.
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update estadios set tienda = 0, cafeteria = 0 where idequipo = ?", kClub);
+        m_store->execute("update datos_jugador set jornada = 32");
+    }).ok());
+    game::Works works(*m_context);
+    ASSERT_EQ(works.order({QStringLiteral("Option21"), QStringLiteral("Option2")}), 2);
+    const int player = int(m_store->integer("select min(idjugador) from jugadores where idequipo = 40"));
+    const int clause = int(m_store->integer("select Clausula_Recision from jugadores where idjugador = ?", player));
+    const int wage = int(m_store->integer("select Ficha from jugadores where idjugador = ?", player));
+    ASSERT_TRUE(game::Offers(*m_context).make(player, {clause, clause, wage, 2}));
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set jornada = 33"); }).ok());
+    const qint64 capacity = m_store->integer("select min_gradas from estadios where idequipo = ?", kClub);
+
+    SeasonClose close(*m_context);
+    ASSERT_TRUE(close.close().has_value());
+    m_dialogs.clear();
+    const qint64 before = budget();
+    EXPECT_EQ(close.settleQueue(), 3);
+
+    EXPECT_EQ(m_dialogs.texts().count(QStringLiteral("Si Tenías Obras de Mejora del Estadio se Han terminado")), 2);
+    EXPECT_EQ(m_store->integer("select tienda from estadios where idequipo = ?", kClub), 1);
+    EXPECT_EQ(m_store->integer("select min_gradas from estadios where idequipo = ?", kClub), capacity + 2000);
+    EXPECT_EQ(m_store->integer("select idequipo from jugadores where idjugador = ?", player), kClub);
+    EXPECT_EQ(budget(), before - 90000 - 5000000 - clause);
+    for (const char *table : {"selects", "caja", "calendario", "pretemporada"})
+        EXPECT_EQ(count(table), 0) << table;
+}
