@@ -17,6 +17,8 @@ const QString kSplash = QStringLiteral("frmSplash");
 const QString kMenu = QStringLiteral("Form1");
 const QString kPanel = QStringLiteral("Panel_Control_Manager");
 const QString kMatch = QStringLiteral("partido");
+const QString kVerdict = QStringLiteral("Finall");
+const QString kPlanner = QStringLiteral("Pretemporada");
 
 } // namespace
 
@@ -163,7 +165,33 @@ void Navigator::nextWeek()
     if (!m_week.open())
         return;
     closeWeekScreens();
+    if (m_week.seasonOver()) {
+        endSeason();
+        return;
+    }
     showPanel();
+}
+
+void Navigator::endSeason()
+{
+    // The season is ranked and emptied; a failure leaves it as it was, and the panel stays
+    // for the player to try again.
+    if (!m_week.closeSeason()) {
+        showPanel();
+        return;
+    }
+    // The panel belongs to the season that ended; the next one gets its own.
+    unload(kPanel);
+    if (!open(kVerdict))
+        seasonClosed();
+}
+
+void Navigator::seasonClosed()
+{
+    close(kVerdict);
+    // Every order still waiting is settled, with its messages, before the next pre-season.
+    m_week.settleOrders();
+    open(kPlanner);
 }
 
 void Navigator::showPanel()

@@ -88,7 +88,7 @@ public:
     void openUrl(const QUrl &url) const { m_openUrl(url); }
 
     // The way of a career: the title, the menu, the first week of a season, each next week,
-    // the end of the week's match, leaving the career, leaving the game.
+    // the end of the week's match, the season's close, leaving the career, leaving the game.
     void showSplash();
     void showMenu();
     void beginSeason();
@@ -96,6 +96,8 @@ public:
     void showPanel();
     void playMatch();
     void matchOver(int homeGoals, int awayGoals);
+    // The verdict has been read: the orders are settled and the next pre-season is planned.
+    void seasonClosed();
     void leaveCareer();
     void quitGame();
 
@@ -107,6 +109,8 @@ private:
     void unload(const QString &name);
     // Closes what a week leaves open before the next one opens.
     void closeWeekScreens();
+    // The week after the calendar's last: the season is closed and its verdict shown.
+    void endSeason();
     void showTopPage();
 
     game::Context m_context;

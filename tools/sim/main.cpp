@@ -2,10 +2,12 @@
 // call, and prints one JSON line with what happened.
 //
 //   zarpazo-sim --data-dir DIR [--seed S] [--club ID] [--friendlies K] [--weeks N]
-//               [--policy quiet|busy]
+//               [--policy quiet|busy] [--seasons N]
 //
 // A quiet manager only plays; a busy one also orders stadium works, raises the ticket price
-// before home matches and takes every broadcast.
+// before home matches, takes every broadcast and works the market. With --seasons the career
+// goes on: each season is closed, its orders settled and the next pre-season planned, and
+// the report gains one object per season.
 //
 // DIR/balonmano.mdb is restored from the pristine copy first and left there for inspection.
 
@@ -19,6 +21,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -71,7 +74,9 @@ int main(int argc, char *argv[])
     const QCommandLineOption policy(QStringLiteral("policy"),
                                     QStringLiteral("How the club is run: quiet (only the matches) or busy."),
                                     QStringLiteral("quiet|busy"), QStringLiteral("quiet"));
-    parser.addOptions({dataDir, seed, club, friendlies, weeks, pristine, policy});
+    const QCommandLineOption seasons(QStringLiteral("seasons"), QStringLiteral("Whole seasons to play, 1 or more."),
+                                     QStringLiteral("N"), QStringLiteral("1"));
+    parser.addOptions({dataDir, seed, club, friendlies, weeks, pristine, policy, seasons});
     parser.process(app);
     if (!parser.isSet(dataDir))
         return fail(QStringLiteral("--data-dir is required"));
@@ -82,6 +87,10 @@ int main(int argc, char *argv[])
         return fail(QStringLiteral("--club must be 1 to 16"));
     if (friendlyCount < 0 || friendlyCount > 5)
         return fail(QStringLiteral("--friendlies must be 0 to 5"));
+    bool seasonsOk = false;
+    const int seasonCount = parser.value(seasons).toInt(&seasonsOk);
+    if (!seasonsOk || seasonCount < 1)
+        return fail(QStringLiteral("--seasons must be 1 or more"));
     game::AutoSeason::Policy chosenPolicy = game::AutoSeason::Policy::Quiet;
     if (parser.value(policy) == QLatin1String("busy"))
         chosenPolicy = game::AutoSeason::Policy::Busy;
@@ -106,13 +115,32 @@ int main(int argc, char *argv[])
     game::AutoSeason season(context, {clubId, friendlyCount, chosenPolicy});
     if (!season.begin())
         return fail(season.failure());
-    while ((weekLimit == 0 || season.totals().weeks < weekLimit) && season.playWeek()) {
+    QJsonArray bySeason;
+    for (int played = 1; played <= seasonCount; ++played) {
+        while ((weekLimit == 0 || season.totals().weeks < weekLimit) && season.playWeek()) {
+        }
+        if (!season.failure().isEmpty())
+            return fail(season.failure());
+        if (seasonCount == 1)
+            break; // a single season is left as it ended, for inspection
+        game::AutoSeason::SeasonSummary summary;
+        if (!season.closeSeason(&summary))
+            return fail(season.failure());
+        bySeason.append(QJsonObject{
+            {QStringLiteral("season"), played},
+            {QStringLiteral("champion"), summary.champion},
+            {QStringLiteral("place"), summary.place},
+            {QStringLiteral("points"), summary.points},
+            {QStringLiteral("goals_for"), summary.goalsFor},
+            {QStringLiteral("goals_against"), summary.goalsAgainst},
+            {QStringLiteral("budget"), double(summary.budget)},
+        });
     }
-    if (!season.failure().isEmpty())
-        return fail(season.failure());
 
     const game::AutoSeason::Totals &totals = season.totals();
     const QJsonObject report{
+        {QStringLiteral("seasons"), seasonCount},
+        {QStringLiteral("season_results"), bySeason},
         {QStringLiteral("weeks"), totals.weeks},
         {QStringLiteral("matches"), totals.matches},
         {QStringLiteral("goals_for"), totals.goalsFor},

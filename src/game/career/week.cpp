@@ -76,6 +76,7 @@ void Week::close()
     m_played = false;
     m_broadcast.reset();
     m_news = {};
+    m_verdict.reset();
 }
 
 void Week::runEvents()
@@ -114,6 +115,23 @@ bool Week::recordResult(int homeGoals, int awayGoals)
         return false;
     m_played = true;
     return true;
+}
+
+std::optional<SeasonClose::Verdict> Week::closeSeason()
+{
+    if (!m_seasonOver || m_verdict)
+        return m_verdict;
+    m_verdict = SeasonClose(m_context).close();
+    return m_verdict;
+}
+
+int Week::settleOrders()
+{
+    if (!m_verdict)
+        return 0;
+    const int settled = SeasonClose(m_context).settleQueue();
+    close();
+    return settled;
 }
 
 bool Week::acceptBroadcast()

@@ -2,6 +2,7 @@
 
 #include "career/career.h"
 #include "career/fixture.h"
+#include "career/seasonclose.h"
 #include "career/weekevents.h"
 #include "context.h"
 #include "match/engine.h"
@@ -89,6 +90,15 @@ public:
     // broadcast stays, to be acknowledged again).
     bool acceptBroadcast();
 
+    // The season is over (seasonOver()): it is ranked and emptied, once, and its verdict
+    // kept for the screens. Nothing when the store failed: the player has been told and the
+    // season stands as it was, to be closed again.
+    std::optional<SeasonClose::Verdict> closeSeason();
+    const std::optional<SeasonClose::Verdict> &verdict() const { return m_verdict; }
+    // After the verdict: every order still waiting is settled, and no week is open until the
+    // next season's planner has made its calendar. Returns the orders settled.
+    int settleOrders();
+
     // What the week's events brought: works that ended, offers answered, a player sold.
     struct News
     {
@@ -112,6 +122,7 @@ private:
     bool m_played = false;
     std::optional<QString> m_broadcast;
     News m_news;
+    std::optional<SeasonClose::Verdict> m_verdict;
 };
 
 } // namespace game

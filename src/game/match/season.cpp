@@ -3,6 +3,7 @@
 #include "career/leagueclubs.h"
 #include "career/newcareer.h"
 #include "career/preseason.h"
+#include "career/seasonclose.h"
 #include "dialogs.h"
 #include "match/callup.h"
 #include "random.h"
@@ -58,6 +59,11 @@ bool AutoSeason::begin()
         m_failure = QStringLiteral("the career could not start");
         return false;
     }
+    return planPreseason();
+}
+
+bool AutoSeason::planPreseason()
+{
     Preseason planner(m_context);
     planner.begin();
     for (int slot = 0; slot < Preseason::kSlots; ++slot) {
@@ -74,6 +80,37 @@ bool AutoSeason::begin()
         return false;
     }
     return true;
+}
+
+bool AutoSeason::closeSeason(SeasonSummary *summary)
+{
+    if (!m_week.seasonOver()) {
+        m_failure = QStringLiteral("the season is not over");
+        return false;
+    }
+    GameStore &store = m_context.store;
+    const int club = m_options.club;
+    SeasonSummary record;
+    store.attempt([&] {
+        GameStore::Query line = store.query("select Puntos, Goles_Favor, Goles_Contra from asobal where teams = ?", club);
+        if (line.next()) {
+            record.points = line.integer(0);
+            record.goalsFor = line.integer(1);
+            record.goalsAgainst = line.integer(2);
+        }
+    });
+    const std::optional<SeasonClose::Verdict> verdict = m_week.closeSeason();
+    if (!verdict) {
+        m_failure = QStringLiteral("the season could not be closed");
+        return false;
+    }
+    m_week.settleOrders();
+    record.champion = verdict->championName;
+    record.place = 17 - verdict->userPlace; // the close stores 16 for the champion
+    store.attempt([&] { record.budget = store.integer("select presupuesto from infoteams where idequipo = ?", club); });
+    if (summary)
+        *summary = record;
+    return planPreseason();
 }
 
 bool AutoSeason::playWeek()

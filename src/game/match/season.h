@@ -62,6 +62,21 @@ public:
     // from the other countries, the rest declined. False when that failed.
     bool begin();
 
+    // What a closed season leaves for the record.
+    struct SeasonSummary
+    {
+        QString champion;
+        int place = 0;        // the user's place in the final table, 1 at the top
+        int points = 0;
+        int goalsFor = 0;
+        int goalsAgainst = 0;
+        qint64 budget = 0;    // the club's budget once every order has been settled
+    };
+    // Closes the season just played as the window does: ranked, its verdict, every order
+    // settled; then the next pre-season is planned, its friendlies drawn again. False when
+    // that failed.
+    bool closeSeason(SeasonSummary *summary = nullptr);
+
     // Lives the next week as the window does, through the same week: it opens, its events
     // run, the best fourteen are called up, both halves are played through the engine and
     // the result is recorded. False once the season is over or a routine failed.
@@ -72,6 +87,7 @@ public:
 
 private:
     bool playWeekBody();
+    bool planPreseason();
     // What a busy manager does once the week's events have run, before the match.
     void actBusy();
     void orderCheapestWorks();

@@ -113,3 +113,53 @@ TEST_F(SeasonCloseTest, settlesEveryOrderAtOnceFromTheBudget)
     for (const char *table : {"selects", "caja", "calendario", "pretemporada"})
         EXPECT_EQ(count(table), 0) << table;
 }
+
+// Guards: a career that cannot go past its first season, a second season that replays the
+// first one's fixtures although the ranks changed, or a close that charges the first week
+// of the new season twice.
+TEST_F(SeasonCloseTest, theCareerGoesOnIntoASecondSeasonOnTheNewRanks)
+{
+    m_random = ScriptedRandom(43);
+    game::AutoSeason season(*m_context, {kClub, 1});
+    ASSERT_TRUE(season.begin());
+    std::vector<int> firstCalendar;
+    {
+        auto rows = m_store->query("select idpartido from calendario order by semana");
+        while (rows.next())
+            firstCalendar.push_back(rows.integer(0));
+    }
+    const qint64 slotBefore = m_store->integer("select puesto_anterior from asobal where teams = ?", kClub);
+    while (season.playWeek()) {
+    }
+    ASSERT_TRUE(season.failure().isEmpty()) << season.failure().toStdString();
+    game::AutoSeason::SeasonSummary summary;
+    ASSERT_TRUE(season.closeSeason(&summary));
+    EXPECT_FALSE(summary.champion.isEmpty());
+    EXPECT_GE(summary.place, 1);
+    EXPECT_LE(summary.place, 16);
+    EXPECT_GT(summary.goalsFor, 0);
+
+    // The new season is planned on the new slots and starts from week 0, the ledger empty.
+    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 0);
+    EXPECT_EQ(count("caja"), 0);
+    EXPECT_EQ(count("selects"), 0);
+    EXPECT_EQ(count("calendario"), 31);
+    std::vector<int> secondCalendar;
+    {
+        auto rows = m_store->query("select idpartido from calendario order by semana");
+        while (rows.next())
+            secondCalendar.push_back(rows.integer(0));
+    }
+    const qint64 slotAfter = m_store->integer("select puesto_anterior from asobal where teams = ?", kClub);
+    if (slotAfter != slotBefore)
+        EXPECT_NE(std::vector<int>(secondCalendar.begin() + 1, secondCalendar.end()),
+                  std::vector<int>(firstCalendar.begin() + 1, firstCalendar.end()));
+
+    ASSERT_TRUE(season.playWeek());
+    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 1);
+    EXPECT_EQ(count("caja"), 1);
+    while (season.playWeek()) {
+    }
+    EXPECT_TRUE(season.failure().isEmpty()) << season.failure().toStdString();
+    EXPECT_EQ(season.totals().matches, 62);
+}
