@@ -24,8 +24,8 @@ CallUpScreen::CallUpScreen(game::Context context, QWidget *parent)
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QStringLiteral("QWidget#Alinear { background-color: #0f1e3c; }"));
 
-    m_players = new RowsModel({QStringLiteral("idjugador"), tr("Nombre"), tr("Apellidos"), tr("Posicion"),
-                               tr("Media"), tr("Dorsal"), tr("Lesiones")},
+    m_players = new RowsModel({tr("Nº"), tr("Nombre"), tr("Apellidos"), tr("Posición"),
+                               tr("Media"), tr("Dorsal"), tr("Lesión")},
                               this);
     m_grid = new QTableView;
     m_grid->setObjectName(QStringLiteral("DataGrid1"));

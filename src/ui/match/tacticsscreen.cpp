@@ -64,8 +64,8 @@ TacticsScreen::TacticsScreen(game::Context context, QWidget *parent) : QWidget(p
     const std::vector<game::CallUp::Player> squad = game::CallUp(context).calledUp();
     auto *thrower = new QComboBox;
     thrower->setObjectName(QStringLiteral("DataCombo1"));
-    auto *players = new RowsModel({QStringLiteral("idjugador"), tr("Nombre"), tr("Apellidos"), tr("Posicion"),
-                                   tr("Media"), tr("Dorsal"), tr("Lesiones")},
+    auto *players = new RowsModel({tr("Nº"), tr("Nombre"), tr("Apellidos"), tr("Posición"),
+                                   tr("Media"), tr("Dorsal"), tr("Lesión")},
                                   this);
     std::vector<QStringList> rows;
     for (const game::CallUp::Player &player : squad) {
