@@ -39,12 +39,12 @@ struct ScreenKind
     bool outlivesTheWeek = false;
     // Makes the screen and connects what it asks of the navigator. A null pointer means it
     // cannot open now, such as a match in a week that has none.
-    std::function<QWidget *(Navigator &)> make;
+    std::function<QWidget *(Navigator &)> make = {};
     // Runs at every opening, the first included, before the screen is shown.
-    std::function<void(Navigator &, QWidget *)> opened;
+    std::function<void(Navigator &, QWidget *)> opened = {};
     // Runs after `opened` when the screen is opened about something, such as the player
     // picked on a list: open(u"Fichar_Jugadores"_s, id).
-    std::function<void(Navigator &, QWidget *, const QVariant &)> about;
+    std::function<void(Navigator &, QWidget *, const QVariant &)> about = {};
 };
 
 // Opens and closes the screens of the game and leads the career from week to week. The

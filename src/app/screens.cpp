@@ -14,10 +14,20 @@
 #include "match/matchscreen.h"
 #include "match/tacticsscreen.h"
 #include "reports/calendarscreen.h"
+#include "reports/roundsscreen.h"
+#include "reports/standingsscreen.h"
+#include "reports/verdictscreen.h"
 #include "stadium/broadcastscreen.h"
 #include "stadium/ledgerscreen.h"
 #include "stadium/stadiumscreen.h"
 #include "transfers/addyouthscreen.h"
+#include "transfers/clubsscreen.h"
+#include "transfers/contractscreen.h"
+#include "transfers/offerscreen.h"
+#include "transfers/salescreen.h"
+#include "transfers/scoutscreen.h"
+#include "transfers/squadscreen.h"
+#include "transfers/youthscreen.h"
 
 #include <QMainWindow>
 
@@ -221,6 +231,150 @@ void registerScreens(Navigator &nav)
                  QObject::connect(tele, &QDialog::accepted, &navigator,
                                   [&navigator] { navigator.close(QStringLiteral("Tele")); });
                  return tele;
+             },
+             {}});
+
+    // The squad and its contracts.
+    // Each is made afresh at every opening. A contract changed or ended makes the squad afresh
+    // under it, so that the lists show the club as it now is.
+    nav.add(QStringLiteral("Plantilla"),
+            {Mode::Page, false, false,
+             [](Navigator &navigator) {
+                 auto *squad = new ui::SquadScreen(navigator.context());
+                 QObject::connect(squad, &ui::SquadScreen::playerPicked, &navigator,
+                                  [&navigator](int player) { navigator.open(QStringLiteral("Renovar"), player); });
+                 QObject::connect(squad, &ui::SquadScreen::youthRequested, &navigator,
+                                  [&navigator] { navigator.open(QStringLiteral("Juveniles")); });
+                 return closing(navigator, squad, QStringLiteral("Plantilla"));
+             },
+             {}});
+
+    nav.add(QStringLiteral("Renovar"),
+            {Mode::Page, false, false,
+             [](Navigator &navigator) {
+                 auto *contract = new ui::ContractScreen(navigator.context());
+                 const auto backToSquad = [&navigator] {
+                     navigator.close(QStringLiteral("Renovar"));
+                     navigator.open(QStringLiteral("Plantilla"));
+                 };
+                 // The screen closes whatever the player answered; only a new contract changes
+                 // the squad's lists.
+                 QObject::connect(contract, &ui::ContractScreen::renewalDone, &navigator,
+                                  [&navigator, backToSquad](bool renewed) {
+                                      if (renewed)
+                                          backToSquad();
+                                      else
+                                          navigator.close(QStringLiteral("Renovar"));
+                                  });
+                 QObject::connect(contract, &ui::ContractScreen::dismissed, &navigator, backToSquad);
+                 return closing(navigator, contract, QStringLiteral("Renovar"));
+             },
+             {},
+             [](Navigator &, QWidget *contract, const QVariant &player) {
+                 static_cast<ui::ContractScreen *>(contract)->showPlayer(player.toInt());
+             }});
+
+    nav.add(QStringLiteral("Juveniles"),
+            {Mode::Page, false, false,
+             [](Navigator &navigator) {
+                 auto *youth = new ui::YouthScreen(navigator.context());
+                 // A youth is offered for as a listed player: from the clause and wage he asks.
+                 QObject::connect(youth, &ui::YouthScreen::playerPicked, &navigator, [&navigator](int player) {
+                     navigator.open(QStringLiteral("Fichar_Jugadores"),
+                                    QVariantMap{{QStringLiteral("player"), player}, {QStringLiteral("listed"), true}});
+                 });
+                 return closing(navigator, youth, QStringLiteral("Juveniles"));
+             },
+             {}});
+
+    // The offer for a player picked on a list, opened about {"player": id, "listed": bool}, or
+    // about the bare id of a player who is not on the market.
+    nav.add(QStringLiteral("Fichar_Jugadores"),
+            {Mode::Page, false, false,
+             [](Navigator &navigator) {
+                 return closing(navigator, new ui::OfferScreen(navigator.context()), QStringLiteral("Fichar_Jugadores"));
+             },
+             {},
+             [](Navigator &, QWidget *offer, const QVariant &about) {
+                 const QVariantMap asked = about.toMap();
+                 const int player = asked.isEmpty() ? about.toInt() : asked.value(QStringLiteral("player")).toInt();
+                 const bool listed = asked.value(QStringLiteral("listed")).toBool();
+                 static_cast<ui::OfferScreen *>(offer)->showPlayer(
+                     player, listed ? ui::OfferScreen::Mode::Listed : ui::OfferScreen::Mode::Free);
+             }});
+
+    // The market's lists.
+    // A player picked on any of them opens the offer for him. The sale lists say that he is
+    // listed, and the offer then starts from his club's and his own terms.
+    const auto offerFor = [](Navigator &navigator, bool listed) {
+        return [&navigator, listed](int player) {
+            navigator.open(QStringLiteral("Fichar_Jugadores"),
+                           QVariantMap{{QStringLiteral("player"), player}, {QStringLiteral("listed"), listed}});
+        };
+    };
+
+    nav.add(QStringLiteral("Fichar_EnVenta"),
+            {Mode::Page, false, false,
+             [offerFor](Navigator &navigator) {
+                 auto *sale = new ui::SaleScreen(navigator.context());
+                 QObject::connect(sale, &ui::SaleScreen::playerPicked, &navigator, offerFor(navigator, true));
+                 // The clubs take the place of the sale lists: the two are never open together.
+                 QObject::connect(sale, &ui::SaleScreen::offersRequested, &navigator, [&navigator] {
+                     navigator.close(QStringLiteral("Fichar_EnVenta"));
+                     navigator.open(QStringLiteral("Fichar"));
+                 });
+                 // The scout stands over the sale lists, which are back when he is left.
+                 QObject::connect(sale, &ui::SaleScreen::scoutRequested, &navigator,
+                                  [&navigator] { navigator.open(QStringLiteral("Secretario")); });
+                 return closing(navigator, sale, QStringLiteral("Fichar_EnVenta"));
+             },
+             {}});
+
+    nav.add(QStringLiteral("Fichar"),
+            {Mode::Page, false, false,
+             [offerFor](Navigator &navigator) {
+                 auto *clubs = new ui::ClubsScreen(navigator.context());
+                 QObject::connect(clubs, &ui::ClubsScreen::playerPicked, &navigator, offerFor(navigator, false));
+                 return closing(navigator, clubs, QStringLiteral("Fichar"));
+             },
+             {}});
+
+    nav.add(QStringLiteral("Secretario"),
+            {Mode::Page, false, false,
+             [offerFor](Navigator &navigator) {
+                 auto *scout = new ui::ScoutScreen(navigator.context());
+                 QObject::connect(scout, &ui::ScoutScreen::playerPicked, &navigator, offerFor(navigator, false));
+                 return closing(navigator, scout, QStringLiteral("Secretario"));
+             },
+             {}});
+
+    // The season's reports.
+    // Both are read afresh at every opening; the table writes the places as it is read.
+    nav.add(QStringLiteral("Clasificacion"),
+            {Mode::Page, false, false,
+             [](Navigator &navigator) {
+                 return closing(navigator, new ui::StandingsScreen(navigator.context()),
+                                QStringLiteral("Clasificacion"));
+             },
+             {}});
+
+    nav.add(QStringLiteral("Resultados"),
+            {Mode::Page, false, false,
+             [](Navigator &navigator) {
+                 return closing(navigator, new ui::RoundsScreen(navigator.context()), QStringLiteral("Resultados"));
+             },
+             {}});
+
+    // The season's verdict, once its close has ranked the league; reading it settles the
+    // orders still waiting and leads to the next pre-season.
+    nav.add(QStringLiteral("Finall"),
+            {Mode::Dialog, false, false,
+             [](Navigator &navigator) -> QWidget * {
+                 if (!navigator.week().verdict())
+                     return nullptr;
+                 auto *verdict = new ui::VerdictScreen(*navigator.week().verdict());
+                 QObject::connect(verdict, &QDialog::accepted, &navigator, &Navigator::seasonClosed);
+                 return verdict;
              },
              {}});
 }

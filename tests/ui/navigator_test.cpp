@@ -8,6 +8,7 @@
 
 #include <QCheckBox>
 #include <QListWidget>
+#include <QSet>
 #include <QRegularExpression>
 #include <QTableView>
 
@@ -142,31 +143,27 @@ TEST_F(NavigatorScreens, comingBackToThePanelNeverOpensTheWeekAgain)
 TEST_F(NavigatorScreens, aPanelButtonFollowsWhetherItsScreenExistsEvenWhenAddedLater)
 {
     reachFirstLeagueWeek();
-    QString added, addedButton;
-    for (const auto &[button, screen] : kPanelButtons) {
-        const QString name = QString::fromLatin1(screen);
-        EXPECT_EQ(find<QPushButton>(QString::fromLatin1(button))->isEnabled(), m_navigator->has(name)) << button;
-        // The standings are added if they are missing, else any screen still missing.
-        if (!m_navigator->has(name) && (added.isEmpty() || name == QStringLiteral("Clasificacion"))) {
-            added = name;
-            addedButton = QString::fromLatin1(button);
-        }
-    }
-    if (added.isEmpty())
-        GTEST_SKIP() << "every screen of the panel exists already; none is left to add";
+    for (const auto &[button, screen] : kPanelButtons)
+        EXPECT_EQ(find<QPushButton>(QString::fromLatin1(button))->isEnabled(),
+                  m_navigator->has(QString::fromLatin1(screen)))
+            << button;
 
-    m_navigator->add(added, app::ScreenKind{app::ScreenKind::Mode::Page, false, false,
-                                            [added](app::Navigator &) {
-                                                auto *screen = new QWidget;
-                                                screen->setObjectName(added);
-                                                return screen;
-                                            },
-                                            {}});
-    m_navigator->showPanel();
-    settle();
-    EXPECT_TRUE(find<QPushButton>(addedButton)->isEnabled()) << addedButton.toStdString();
-    click(addedButton);
-    EXPECT_EQ(m_navigator->current()->objectName(), added);
+    // A panel whose game gains a screen after the panel was made: the button lights up the
+    // next time the week is shown, and asks for that screen.
+    QSet<QString> existing{QStringLiteral("Caja")};
+    ui::WeekPanel panel(m_navigator->week(), [&existing](const QString &name) { return existing.contains(name); });
+    panel.showWeek();
+    auto *standings = panel.findChild<QPushButton *>(QStringLiteral("cmdClasificacion"));
+    ASSERT_NE(standings, nullptr);
+    EXPECT_FALSE(standings->isEnabled());
+    EXPECT_TRUE(panel.findChild<QPushButton *>(QStringLiteral("cmdCaja"))->isEnabled());
+    existing.insert(QStringLiteral("Clasificacion"));
+    panel.showWeek();
+    EXPECT_TRUE(standings->isEnabled());
+    QStringList asked;
+    QObject::connect(&panel, &ui::WeekPanel::openRequested, [&asked](const QString &name) { asked << name; });
+    standings->click();
+    EXPECT_EQ(asked, QStringList{QStringLiteral("Clasificacion")});
 }
 
 // Guards: a window title showing a column name or an empty argument instead of the manager,
@@ -321,6 +318,61 @@ TEST_F(NavigatorScreens, aWorkOrderedInTheWindowEndsWeeksLaterAndTheMoneyReaches
     EXPECT_EQ(indexed::find(ledger, QStringLiteral("lblTelevision"), 1)->text(),
               QStringLiteral("%1 €").arg(qint64(broadcasts) * 450000));
     screenshot(QStringLiteral("ledger_works_finished"));
+}
+
+// Guards: a career that stops after the last round, a verdict that never shows, orders left
+// for a season that no longer exists, or a new season whose first week is charged twice.
+TEST_F(NavigatorScreens, theLastRoundLeadsToTheVerdictAndTheNextPreseason)
+{
+    reachFirstLeagueWeek();
+    // The season is played up to its last week.
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set jornada = 29"); }).ok());
+    m_navigator->nextWeek();
+    settle();
+    panel()->runWeekEvents();
+    settle();
+    if (m_navigator->screen(QStringLiteral("Tele")))
+        click(QStringLiteral("cmdOK"));
+    ASSERT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("30"));
+    click(QStringLiteral("cmdSeguir"));
+    callUpFirstFourteen();
+    click(QStringLiteral("cmdJugar"));
+    ASSERT_NE(match(), nullptr);
+    playHalf();
+    playHalf();
+    click(QStringLiteral("cmdSalir"));
+    settle();
+
+    // The week after the last: the verdict, over the window.
+    QWidget *verdict = m_navigator->screen(QStringLiteral("Finall"));
+    ASSERT_NE(verdict, nullptr);
+    EXPECT_TRUE(verdict->isVisible());
+    const QString champion = m_store->text("select NombreEquipo from equipos where idequipo ="
+                                           " (select teams from asobal where puesto_anterior = 16)");
+    EXPECT_EQ(find<QLabel>(QStringLiteral("win"))->text(), champion);
+    EXPECT_EQ(find<QLabel>(QStringLiteral("pos"))->text(),
+              QString::number(m_store->integer("select puesto_anterior from asobal where teams = ?", club())));
+    EXPECT_EQ(count("calendario"), 0);
+    EXPECT_EQ(count("caja"), 0);
+    screenshot(QStringLiteral("season_verdict"), verdict);
+
+    click(QStringLiteral("cmdOK"));
+    settle();
+    EXPECT_EQ(m_navigator->screen(QStringLiteral("Finall")), nullptr);
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Pretemporada"));
+    EXPECT_EQ(count("selects"), 0);
+    EXPECT_EQ(count("pretemporada"), 0);
+    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 0);
+
+    const qint64 budget = m_store->integer("select presupuesto from infoteams where idequipo = ?", club());
+    for (int slot = 0; slot < 5; ++slot)
+        click(QStringLiteral("cmdNoJugar"));
+    click(QStringLiteral("cmdSeguir"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("1"));
+    EXPECT_EQ(count("caja"), 1);
+    EXPECT_EQ(m_store->integer("select presupuesto from infoteams where idequipo = ?", club()),
+              budget - m_store->integer("select Gastos_Fichas + Gastos_Empleados from caja where semana = 1"));
 }
 
 // Guards: forty-letter names of players and a very long rival club widening the match

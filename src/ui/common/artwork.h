@@ -24,7 +24,9 @@ ClubColours clubColours(int clubId);
 // Transparent outside the shield.
 QPixmap crest(int clubId, QSize size);
 
-// The flag of a country by its code 1..18 (1 Spain ... 18 Serbia-Montenegro).
+// The flag of a country by its code 1..18 (1 Spain ... 18 Serbia-Montenegro), or kNorway:
+// Norway stands among the market's flags though no club of the game is Norwegian.
+inline constexpr int kNorway = 19;
 QPixmap flag(int countryCode, QSize size);
 
 // A handball, white leather with coloured panels and lit from the upper left, drawn to

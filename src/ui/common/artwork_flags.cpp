@@ -313,6 +313,11 @@ QPixmap flag(int countryCode, QSize size)
     case 16: turkey(p, r); break;
     case 17: portugal(p, r); break;
     case 18: horizontal(p, r, {QColor(0x00, 0x38, 0x93), kWhite, QColor(0xde, 0x00, 0x00)}); break;
+    case kNorway:
+        p.fillRect(r, QColor(0xba, 0x0c, 0x2f));
+        nordic(p, r, kWhite, 22, 16, 6, 10, 6, 10);
+        nordic(p, r, QColor(0x00, 0x20, 0x5b), 22, 16, 7, 9, 7, 9);
+        break;
     default:
         // An unknown country: a plain grey field rather than a wrong flag.
         p.fillRect(r, QColor(0xc8, 0xc8, 0xc8));

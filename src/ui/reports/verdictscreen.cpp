@@ -1,0 +1,123 @@
+#include "verdictscreen.h"
+
+#include "common/artwork.h"
+#include "common/plainlabel.h"
+#include "common/theme.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace ui {
+
+namespace {
+
+const QSize kCrest(150, 150);
+
+QLabel *caption(const QString &text)
+{
+    QLabel *label = plainLabel(text);
+    label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
+    return label;
+}
+
+QLabel *value(const char *name, const QString &text)
+{
+    QLabel *label = plainLabel(text);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setStyleSheet(
+        QStringLiteral("color: #ffffff; background: #162a50; font-weight: bold; padding: 4px 10px;"));
+    label->setMinimumHeight(30);
+    return label;
+}
+
+// A caption over the two clubs at the bottom of the table: the last first.
+QVBoxLayout *bottomPair(const QString &title, const char *lastName, const char *secondLastName,
+                        const game::SeasonClose::Verdict &verdict)
+{
+    auto *block = new QVBoxLayout;
+    block->setSpacing(6);
+    block->addWidget(caption(title));
+    block->addWidget(value(lastName, verdict.last));
+    block->addWidget(value(secondLastName, verdict.secondLast));
+    return block;
+}
+
+} // namespace
+
+VerdictScreen::VerdictScreen(const game::SeasonClose::Verdict &verdict, QWidget *parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+{
+    setObjectName(QStringLiteral("Finall"));
+    setWindowTitle(tr("Resultados Finales"));
+    setModal(true);
+    setStyleSheet(QStringLiteral("QDialog#Finall { border: 2px solid #e8a33d; }"));
+
+    // The champion: its crest over its name.
+    QLabel *crest = plainLabel();
+    crest->setObjectName(QStringLiteral("Imagen"));
+    crest->setFixedSize(kCrest);
+    crest->setAlignment(Qt::AlignCenter);
+    if (verdict.champion > 0)
+        crest->setPixmap(artwork::crest(verdict.champion, kCrest));
+    QLabel *champion = plainLabel(verdict.championName);
+    champion->setObjectName(QStringLiteral("win"));
+    champion->setAlignment(Qt::AlignCenter);
+    champion->setWordWrap(true);
+    champion->setStyleSheet(QStringLiteral("color: #ffffff; font-size: 22px; font-weight: bold;"));
+    QLabel *title = theme::heading(tr("CAMPEÓN DE LA LIGA ASOBAL"));
+    title->setWordWrap(true);
+    auto *championBlock = new QVBoxLayout;
+    championBlock->setSpacing(12);
+    championBlock->addWidget(title);
+    championBlock->addWidget(crest, 0, Qt::AlignHCenter);
+    championBlock->addWidget(champion);
+    championBlock->addStretch();
+
+    // The bottom two: the same clubs go down and buy their places back.
+    auto *bottom = new QHBoxLayout;
+    bottom->setSpacing(16);
+    bottom->addLayout(bottomPair(tr("Desciende:"), "dos", "uno", verdict));
+    bottom->addLayout(bottomPair(tr("Compra Plaza:"), "compra1", "Compra2", verdict));
+
+    auto *yours = new QGroupBox(tr("TUS RESULTADOS"));
+    auto *yoursLayout = new QHBoxLayout(yours);
+    yoursLayout->setContentsMargins(14, 12, 14, 12);
+    yoursLayout->addWidget(caption(tr("Posición Alcanzada:")));
+    QLabel *place = value("pos", QString::number(verdict.userPlace));
+    place->setAlignment(Qt::AlignCenter);
+    place->setFixedWidth(70);
+    yoursLayout->addWidget(place);
+    yoursLayout->addStretch();
+
+    auto *ok = new QPushButton(tr("OK"));
+    ok->setObjectName(QStringLiteral("cmdOK"));
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(ok);
+
+    auto *right = new QVBoxLayout;
+    right->setSpacing(18);
+    right->addSpacing(8);
+    right->addLayout(bottom);
+    right->addWidget(yours);
+    right->addStretch();
+    right->addLayout(buttons);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(24, 20, 24, 20);
+    layout->setSpacing(28);
+    layout->addLayout(championBlock, 5);
+    layout->addLayout(right, 6);
+    setFixedSize(800, 370);
+}
+
+void VerdictScreen::reject()
+{
+    accept();
+}
+
+} // namespace ui

@@ -1,0 +1,219 @@
+#include "moneybox.h"
+
+#include "common/theme.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace ui {
+
+namespace {
+
+// A key that writes something other than a digit is dropped; control keys (backspace, the
+// arrows, copying and pasting) pass.
+bool writesNonDigit(const QKeyEvent *event)
+{
+    const QString text = event->text();
+    return !text.isEmpty() && text.front() >= QLatin1Char(' ') && !text.front().isDigit();
+}
+
+bool onlyDigitsAndSign(const QString &text)
+{
+    for (const QChar c : text) {
+        if (!(c >= QLatin1Char('0') && c <= QLatin1Char('9')) && c != QLatin1Char(' ') && c != QChar(0x20AC))
+            return false;
+    }
+    return true;
+}
+
+QPushButton *stepButton(const char *name, const QString &text, const QString &hint)
+{
+    auto *button = new QPushButton(text);
+    button->setObjectName(QString::fromUtf8(name));
+    button->setToolTip(hint);
+    button->setStyleSheet(QStringLiteral(
+        "QPushButton { min-width: 38px; max-width: 38px; padding: 2px 0px; font-size: 18px; }"));
+    return button;
+}
+
+QWidget *captioned(const QString &caption, QLayout *row)
+{
+    auto *field = new QWidget;
+    auto *layout = new QVBoxLayout(field);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
+    layout->addWidget(theme::fieldCaption(caption));
+    layout->addLayout(row);
+    return field;
+}
+
+} // namespace
+
+QString digitsOf(const QString &text)
+{
+    QString digits;
+    for (const QChar c : text) {
+        if (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
+            digits += c;
+    }
+    return digits;
+}
+
+QString moneyText(const QString &text)
+{
+    return text.isEmpty() ? QString() : digitsOf(text) + QStringLiteral(" €");
+}
+
+MoneyBox::MoneyBox(const char *name, QWidget *parent) : QLineEdit(parent)
+{
+    setObjectName(QString::fromUtf8(name));
+    setText(QStringLiteral("1 €"));
+    setAlignment(Qt::AlignRight);
+    setMinimumWidth(150);
+    connect(this, &QLineEdit::textEdited, this, [this](const QString &text) {
+        // A sum is never missing: an emptied box asks for one euro. Pasted text keeps only
+        // its digits, as typing would have.
+        if (text.isEmpty())
+            setText(QStringLiteral("1 €"));
+        else if (!onlyDigitsAndSign(text))
+            setText(digitsOf(text));
+    });
+}
+
+void MoneyBox::stepUp()
+{
+    step(kStep);
+}
+
+void MoneyBox::stepDown()
+{
+    const QString digits = digitsOf(text());
+    if (digits.size() <= 18 && digits.toLongLong() > 1)
+        step(-kStep);
+}
+
+void MoneyBox::step(qint64 change)
+{
+    const QString digits = digitsOf(text());
+    // A sum of more digits than any number holds is left as typed; the offer refuses it.
+    if (digits.size() > 18)
+        return;
+    setText(moneyText(QString::number(digits.toLongLong() + change)));
+}
+
+void MoneyBox::keyPressEvent(QKeyEvent *event)
+{
+    if (writesNonDigit(event)) {
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void MoneyBox::focusOutEvent(QFocusEvent *event)
+{
+    setText(moneyText(text()));
+    QLineEdit::focusOutEvent(event);
+}
+
+Stepper::Stepper(QWidget *screen) : QObject(screen), m_timer(new QTimer(this))
+{
+    m_timer->setObjectName(QStringLiteral("Timer1"));
+    m_timer->setInterval(kInterval);
+    connect(m_timer, &QTimer::timeout, this, &Stepper::step);
+}
+
+QWidget *Stepper::field(const QString &caption, MoneyBox *box, const char *up, const char *down)
+{
+    QPushButton *raise = stepButton(up, QStringLiteral("+"), tr("Mantén pulsado para subir la cantidad"));
+    QPushButton *lower = stepButton(down, QStringLiteral("−"), tr("Mantén pulsado para bajar la cantidad"));
+    connect(raise, &QPushButton::pressed, this, [this, box] { hold(box, true); });
+    connect(lower, &QPushButton::pressed, this, [this, box] { hold(box, false); });
+    connect(raise, &QPushButton::released, m_timer, &QTimer::stop);
+    connect(lower, &QPushButton::released, m_timer, &QTimer::stop);
+
+    auto *row = new QHBoxLayout;
+    row->setSpacing(6);
+    row->addWidget(box, 1);
+    row->addWidget(lower);
+    row->addWidget(raise);
+    return captioned(caption, row);
+}
+
+void Stepper::hold(MoneyBox *box, bool up)
+{
+    m_box = box;
+    m_up = up;
+    m_timer->start();
+}
+
+void Stepper::step()
+{
+    if (!m_box)
+        return;
+    if (m_up)
+        m_box->stepUp();
+    else
+        m_box->stepDown();
+}
+
+YearsBox::YearsBox(QWidget *parent) : QLineEdit(parent), m_bar(new QScrollBar(Qt::Horizontal))
+{
+    setObjectName(QStringLiteral("txtaños"));
+    setAlignment(Qt::AlignCenter);
+    setFixedWidth(60);
+    m_bar->setObjectName(QStringLiteral("HScroll4"));
+    m_bar->setRange(kFewest, kMostOnTheBar);
+    m_bar->setPageStep(1);
+    m_bar->setMinimumWidth(160);
+    connect(m_bar, &QScrollBar::valueChanged, this, [this](int years) { setText(QString::number(years)); });
+    connect(this, &QLineEdit::textChanged, this, &YearsBox::check);
+    setYears(kFewest);
+}
+
+void YearsBox::setYears(int years)
+{
+    m_bar->setValue(years);
+    setText(QString::number(years));
+}
+
+QWidget *YearsBox::field(const QString &caption)
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(10);
+    row->addWidget(this);
+    row->addWidget(m_bar, 1);
+    return captioned(caption, row);
+}
+
+void YearsBox::keyPressEvent(QKeyEvent *event)
+{
+    if (writesNonDigit(event)) {
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void YearsBox::check(const QString &text)
+{
+    // A contract runs 1 to 6 years; anything else in the box reads as one year. A number the
+    // bar can show moves the bar with it.
+    bool number = false;
+    const int years = text.toInt(&number);
+    if (!number || years < kFewest || years > kMostTyped) {
+        setText(QString::number(kFewest));
+        return;
+    }
+    if (years <= kMostOnTheBar && m_bar->value() != years) {
+        const QSignalBlocker quiet(m_bar);
+        m_bar->setValue(years);
+    }
+}
+
+} // namespace ui

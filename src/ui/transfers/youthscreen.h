@@ -1,0 +1,36 @@
+#pragma once
+
+#include "context.h"
+
+#include <QWidget>
+
+class QListWidget;
+
+namespace ui {
+
+class PlayerTable;
+
+// "Búsqueda de Jóvenes Promesas": the young players of the youth pool, one position at a
+// time. The grid stays empty until "BUSCAR PROMESA" is pressed; a youth picked leads to an
+// offer as for a listed player, from the clause and wage he asks.
+class YouthScreen : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit YouthScreen(game::Context context, QWidget *parent = nullptr);
+
+    // Loads the youths of the position chosen in the list.
+    void search();
+
+signals:
+    void playerPicked(int player);
+    void closeRequested();
+
+private:
+    game::Context m_context;
+    QListWidget *m_positions;
+    PlayerTable *m_youths;
+};
+
+} // namespace ui
