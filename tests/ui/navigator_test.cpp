@@ -320,6 +320,109 @@ TEST_F(NavigatorScreens, aWorkOrderedInTheWindowEndsWeeksLaterAndTheMoneyReaches
     screenshot(QStringLiteral("ledger_works_finished"));
 }
 
+// Guards: the market as a player lives it in the window going wrong across weeks: an offer
+// answered early, late or never, a signing that does not move the player, a listed player
+// never bid for, or a sale that leaves him in the squad or pays nothing.
+TEST_F(NavigatorScreens, anOfferIsAnsweredThreeWeeksLaterAndAListedPlayerIsSoldOnABid)
+{
+    reachFirstLeagueWeek();
+    if (m_navigator->screen(QStringLiteral("Tele")))
+        click(QStringLiteral("cmdOK"));
+    auto pickRow = [this](QTableView *grid, int row) {
+        ASSERT_GT(grid->model()->rowCount(), row);
+        const QModelIndex index = grid->model()->index(row, 1);
+        grid->scrollTo(index);
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(index).center());
+        settle();
+    };
+    // Each screen's own way back, until the panel is on show.
+    auto backToPanel = [this] {
+        for (int step = 0; step < 5 && m_navigator->current()->objectName() != QStringLiteral("Panel_Control_Manager");
+             ++step) {
+            QWidget *page = m_navigator->current();
+            if (page->findChild<QAbstractButton *>(QStringLiteral("cmdCancelar")))
+                page->findChild<QAbstractButton *>(QStringLiteral("cmdCancelar"))->click();
+            else
+                page->findChild<QAbstractButton *>(QStringLiteral("cmdVOLVER"))->click();
+            settle();
+        }
+        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+    };
+
+    // An offer for a listed back, at the terms he asks.
+    click(QStringLiteral("cmdfichar"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Fichar_EnVenta"));
+    auto *backs = find<QTableView>(QStringLiteral("DGLaterales"));
+    const int signing = backs->model()->index(0, 0).data().toInt();
+    ASSERT_GT(signing, 0);
+    pickRow(backs, 0);
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Fichar_Jugadores"));
+    click(QStringLiteral("cmdfichar"));
+    EXPECT_EQ(m_store->integer("select count(*) from selects where jugador = ? and jornada = 1", signing), 1);
+    backToPanel();
+
+    // One of the squad listed from its contract screen, the rest too, so that bids come.
+    click(QStringLiteral("cmdPlantilla"));
+    auto *centres = find<QTableView>(QStringLiteral("DataGrid4"));
+    const int listed = centres->model()->index(0, 0).data().toInt();
+    pickRow(centres, 0);
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Renovar"));
+    click(QStringLiteral("cmdTransferir"));
+    EXPECT_EQ(m_store->integer("select venta from jugadores where idjugador = ?", listed), 1);
+    backToPanel();
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update jugadores set venta = 1 where idequipo = ? and idjugador <> ?", club(), listed);
+    }).ok());
+    m_dialogs.answer({true, true, true, true, true, true, true, true, true, true});
+
+    bool signedHim = false;
+    int sales = 0;
+    for (int week = 1; week <= 8 && (!signedHim || sales == 0); ++week) {
+        click(QStringLiteral("cmdSeguir"));
+        if (week == 1)
+            callUpFirstFourteen();
+        // A sold man leaves a hole in the fourteen: the next of the squad takes it.
+        for (int place = 0; place < 14; ++place) {
+            if (find<QListWidget>(QStringLiteral("list1"))->item(place)->text().endsWith(QStringLiteral(" - "))) {
+                auto *grid = find<QTableView>(QStringLiteral("DataGrid1"));
+                for (int row = 0; row < grid->model()->rowCount(); ++row) {
+                    const int id = grid->model()->index(row, 0).data().toInt();
+                    if (m_store->integer("select count(*) from miequipo where idjugador = ?", id) == 0) {
+                        grid->setCurrentIndex(grid->model()->index(row, 2));
+                        find<QListWidget>(QStringLiteral("list1"))->setCurrentRow(place);
+                        click(QStringLiteral("cmdAñadir"));
+                        break;
+                    }
+                }
+            }
+        }
+        click(QStringLiteral("cmdJugar"));
+        ASSERT_NE(match(), nullptr) << week << ' ' << m_dialogs.texts().join(QLatin1Char('|')).toStdString();
+        playHalf();
+        playHalf();
+        m_dialogs.clear();
+        click(QStringLiteral("cmdSalir"));
+        settle();
+        panel()->runWeekEvents();
+        settle();
+        if (m_navigator->screen(QStringLiteral("Tele")))
+            click(QStringLiteral("cmdOK"));
+        const int opened = week + 1;
+        const bool answered = m_store->integer("select idequipo from jugadores where idjugador = ?", signing) == club();
+        // The offer of week 1 is answered at the opening of week 4, not before.
+        EXPECT_EQ(answered, opened >= 4) << opened;
+        if (answered && !signedHim) {
+            EXPECT_TRUE(m_dialogs.texts().join(QLatin1Char('|')).contains(QStringLiteral("Has Fichado a "))) << opened;
+            EXPECT_GT(m_store->integer("select Gastos_Fichajes from caja where semana = ?", opened), 0);
+            signedHim = true;
+        }
+        sales += int(m_store->integer("select count(*) from caja where semana = ? and Ingresos_Venta_Jugador > 0", opened));
+    }
+    EXPECT_TRUE(signedHim);
+    EXPECT_GT(sales, 0);
+    EXPECT_GE(m_store->integer("select count(*) from jugadores where idequipo = ?", club()), 14);
+}
+
 // Guards: a career that stops after the last round, a verdict that never shows, orders left
 // for a season that no longer exists, or a new season whose first week is charged twice.
 TEST_F(NavigatorScreens, theLastRoundLeadsToTheVerdictAndTheNextPreseason)
