@@ -4,7 +4,7 @@
 #include "common/artwork.h"
 #include "common/plainlabel.h"
 #include "common/theme.h"
-#include "salescreen.h"
+#include "playergrid.h"
 #include "transfers/market.h"
 
 #include <QEvent>

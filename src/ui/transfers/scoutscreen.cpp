@@ -3,7 +3,7 @@
 #include "career/leagueclubs.h"
 #include "common/plainlabel.h"
 #include "common/theme.h"
-#include "salescreen.h"
+#include "playergrid.h"
 #include "transfers/market.h"
 
 #include <QGridLayout>

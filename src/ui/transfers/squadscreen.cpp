@@ -15,37 +15,6 @@ namespace ui {
 
 namespace {
 
-QString headerOf(PlayerTable::Column column)
-{
-    switch (column) {
-    case PlayerTable::Column::Nombre: return QObject::tr("Nombre");
-    case PlayerTable::Column::Apellidos: return QObject::tr("Apellidos");
-    case PlayerTable::Column::Edad: return QObject::tr("Edad");
-    case PlayerTable::Column::Posicion: return QObject::tr("Posición");
-    case PlayerTable::Column::Media: return QObject::tr("Media");
-    case PlayerTable::Column::Dorsal: return QObject::tr("Dorsal");
-    case PlayerTable::Column::Nacionalidad: return QObject::tr("Nacionalidad");
-    // On two lines, so that the four grids of the squad fit side by side, two by two.
-    case PlayerTable::Column::Years: return QObject::tr("Años de\ncontrato");
-    }
-    return {};
-}
-
-QString cellOf(const game::Market::Line &player, PlayerTable::Column column)
-{
-    switch (column) {
-    case PlayerTable::Column::Nombre: return player.nombre;
-    case PlayerTable::Column::Apellidos: return player.apellidos;
-    case PlayerTable::Column::Edad: return QString::number(player.edad);
-    case PlayerTable::Column::Posicion: return player.posicion;
-    case PlayerTable::Column::Media: return QString::number(player.media);
-    case PlayerTable::Column::Dorsal: return QString::number(player.dorsal);
-    case PlayerTable::Column::Nacionalidad: return player.nacionalidad;
-    case PlayerTable::Column::Years: return QString::number(player.years);
-    }
-    return {};
-}
-
 QLabel *caption(const QString &text)
 {
     QLabel *label = plainLabel(text);
@@ -54,43 +23,6 @@ QLabel *caption(const QString &text)
 }
 
 } // namespace
-
-PlayerTable::PlayerTable(const char *name, std::vector<Column> shown, QWidget *parent)
-    : QTableView(parent), m_columns(std::move(shown))
-{
-    setObjectName(QString::fromUtf8(name));
-    QStringList headers{tr("Nº")};
-    for (Column column : m_columns)
-        headers << headerOf(column);
-    m_rows = new RowsModel(headers, this);
-    setModel(m_rows);
-    styleGrid(this);
-    setColumnHidden(0, true);
-    setWordWrap(false);
-    connect(this, &QTableView::clicked, this, [this](const QModelIndex &index) {
-        if (index.isValid())
-            emit playerPicked(playerAt(index.row()));
-    });
-}
-
-void PlayerTable::setPlayers(const std::vector<game::Market::Line> &players)
-{
-    std::vector<QStringList> rows;
-    rows.reserve(players.size());
-    for (const game::Market::Line &player : players) {
-        QStringList cells{QString::number(player.id)};
-        for (Column column : m_columns)
-            cells << cellOf(player, column);
-        rows.push_back(std::move(cells));
-    }
-    m_rows->setRows(std::move(rows));
-    resizeColumnsToContents();
-}
-
-int PlayerTable::playerAt(int row) const
-{
-    return row >= 0 && row < m_rows->rowCount() ? m_rows->row(row).at(0).toInt() : 0;
-}
 
 SquadScreen::SquadScreen(game::Context context, QWidget *parent) : QWidget(parent)
 {
@@ -117,11 +49,11 @@ SquadScreen::SquadScreen(game::Context context, QWidget *parent) : QWidget(paren
     grids->setVerticalSpacing(8);
     int place = 0;
     for (const Group &group : groups) {
-        using Column = PlayerTable::Column;
-        auto *grid = new PlayerTable(group.name, {Column::Nombre, Column::Apellidos, Column::Edad, Column::Posicion,
+        using Column = PlayerGrid::Column;
+        auto *grid = new PlayerGrid(group.name, {Column::Nombre, Column::Apellidos, Column::Edad, Column::Posicion,
                                                   Column::Media, Column::Years});
         grid->setPlayers(market.squad(group.group));
-        connect(grid, &PlayerTable::playerPicked, this, &SquadScreen::playerPicked);
+        connect(grid, &PlayerGrid::playerPicked, this, &SquadScreen::playerPicked);
         auto *box = new QVBoxLayout;
         box->setSpacing(4);
         box->addWidget(caption(group.caption));

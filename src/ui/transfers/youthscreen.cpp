@@ -3,7 +3,7 @@
 #include "career/leagueclubs.h"
 #include "common/plainlabel.h"
 #include "common/theme.h"
-#include "squadscreen.h"
+#include "playergrid.h"
 #include "transfers/market.h"
 
 #include <QHBoxLayout>
@@ -36,10 +36,10 @@ YouthScreen::YouthScreen(game::Context context, QWidget *parent) : QWidget(paren
     search->setObjectName(QStringLiteral("Command1"));
     connect(search, &QPushButton::clicked, this, &YouthScreen::search);
 
-    using Column = PlayerTable::Column;
-    m_youths = new PlayerTable("DGJugadores", {Column::Nombre, Column::Apellidos, Column::Edad, Column::Posicion,
+    using Column = PlayerGrid::Column;
+    m_youths = new PlayerGrid("DGJugadores", {Column::Nombre, Column::Apellidos, Column::Edad, Column::Posicion,
                                                Column::Media, Column::Dorsal, Column::Nacionalidad});
-    connect(m_youths, &PlayerTable::playerPicked, this, &YouthScreen::playerPicked);
+    connect(m_youths, &PlayerGrid::playerPicked, this, &YouthScreen::playerPicked);
 
     auto *left = new QVBoxLayout;
     auto *positionsCaption = plainLabel(tr("POSICIÓN"));

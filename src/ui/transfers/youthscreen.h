@@ -8,7 +8,7 @@ class QListWidget;
 
 namespace ui {
 
-class PlayerTable;
+class PlayerGrid;
 
 // "Búsqueda de Jóvenes Promesas": the young players of the youth pool, one position at a
 // time. The grid stays empty until "BUSCAR PROMESA" is pressed; a youth picked leads to an
@@ -30,7 +30,7 @@ signals:
 private:
     game::Context m_context;
     QListWidget *m_positions;
-    PlayerTable *m_youths;
+    PlayerGrid *m_youths;
 };
 
 } // namespace ui

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "transfers/market.h"
+
+#include <QTableView>
+
+#include <vector>
+
+class RowsModel;
+
+namespace ui {
+
+// A grid of players as the market, the squad and the youth search show them. Each grid
+// shows its own columns; before them stands the player's number, kept out of sight, so that
+// a row pressed names him.
+class PlayerGrid : public QTableView
+{
+    Q_OBJECT
+
+public:
+    enum class Column { Nombre, Apellidos, Edad, Posicion, Media, Dorsal, Nacionalidad, Years };
+
+    PlayerGrid(const char *name, std::vector<Column> shown, QWidget *parent = nullptr);
+
+    // One row a player, in the order given.
+    void setPlayers(const std::vector<game::Market::Line> &players);
+    // The number of the player on that row, or 0.
+    int playerAt(int row) const;
+
+signals:
+    void playerPicked(int player);
+
+private:
+    std::vector<Column> m_columns;
+    RowsModel *m_rows;
+};
+
+} // namespace ui
