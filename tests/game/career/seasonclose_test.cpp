@@ -151,9 +151,10 @@ TEST_F(SeasonCloseTest, theCareerGoesOnIntoASecondSeasonOnTheNewRanks)
             secondCalendar.push_back(rows.integer(0));
     }
     const qint64 slotAfter = m_store->integer("select puesto_anterior from asobal where teams = ?", kClub);
-    if (slotAfter != slotBefore)
+    if (slotAfter != slotBefore) {
         EXPECT_NE(std::vector<int>(secondCalendar.begin() + 1, secondCalendar.end()),
                   std::vector<int>(firstCalendar.begin() + 1, firstCalendar.end()));
+    }
 
     ASSERT_TRUE(season.playWeek());
     EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 1);
