@@ -102,4 +102,8 @@ TEST_F(StoreTest, aBusySeasonEndsWorksAndKeepsTheLedgerConsistent)
     EXPECT_EQ(totals.sales, int(m_store->integer("select count(*) from caja where Ingresos_Venta_Jugador > 0")));
     EXPECT_EQ(m_store->integer("select max(idjugador) - count(*) from jugadores"), 0); // ids without gaps
     EXPECT_GE(m_store->integer("select count(*) from jugadores where idequipo = 13"), 15);
+    // Every other club of the league can still field all seven positions.
+    EXPECT_EQ(m_store->integer("select count(*) from (select idequipo from jugadores where idequipo between 1 and 16"
+                               " and idequipo <> 13 group by idequipo having count(distinct Posicion) >= 7)"),
+              15);
 }
