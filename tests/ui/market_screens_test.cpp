@@ -189,8 +189,8 @@ protected:
         return texts;
     }
 
-    // The offer is open over the screen, about the player picked, listed or not; then it is
-    // closed and the screen that opened it is back.
+    // The offer is open over the screen, about the player picked, listed or not; it is made,
+    // and the screen that opened it is back.
     void expectOfferFor(int player, bool listed, const QString &back)
     {
         QWidget *offer = m_navigator->screen(kOffer);
@@ -209,6 +209,15 @@ protected:
             if (auto *notes = offer->findChild<QLabel *>(QStringLiteral("lblNotas"))) {
                 EXPECT_EQ(notes->text().isEmpty(), !listed);
             }
+            // The offer is made as it stands: a listed player's own terms, or 1 € for a free one.
+            const qint64 before = m_store->integer("select count(*) from selects where jugador = ?", player);
+            auto *make = offer->findChild<QAbstractButton *>(QStringLiteral("cmdfichar"));
+            ASSERT_NE(make, nullptr);
+            make->click();
+            settle();
+            EXPECT_EQ(m_store->integer("select count(*) from selects where jugador = ?", player), before + 1);
+            EXPECT_EQ(m_store->integer("select oferta from selects where jugador = ? order by rowid desc limit 1", player),
+                      listed ? m_store->integer("select Clausula_Recision from jugadores where idjugador = ?", player) : 1);
         }
         m_navigator->close(kOffer);
         settle();
