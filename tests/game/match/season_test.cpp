@@ -107,3 +107,43 @@ TEST_F(StoreTest, aBusySeasonEndsWorksAndKeepsTheLedgerConsistent)
                                " and idequipo <> 13 group by idequipo having count(distinct Posicion) >= 7)"),
               15);
 }
+
+// Guards: a career that drifts over many seasons: a close that leaves orders, ledger rows,
+// fixtures or friendlies behind, places that repeat, players' ids with gaps, a league club
+// left without a squad, or a match that cannot be played.
+TEST_F(StoreTest, twentyBusySeasonsKeepEveryInvariantAfterEachClose)
+{
+    m_random = ScriptedRandom(2020);
+    game::AutoSeason season(*m_context, {6, 2, game::AutoSeason::Policy::Busy});
+    ASSERT_TRUE(season.begin());
+    for (int played = 1; played <= 20; ++played) {
+        int weeks = 0;
+        while (season.playWeek())
+            ASSERT_LT(++weeks, 40) << played;
+        ASSERT_TRUE(season.failure().isEmpty()) << played << ' ' << season.failure().toStdString();
+        game::AutoSeason::SeasonSummary summary;
+        // The close is checked before the next season is planned over it.
+        ASSERT_TRUE(season.closeSeason(&summary)) << played << ' ' << season.failure().toStdString();
+        EXPECT_FALSE(summary.champion.isEmpty()) << played;
+        EXPECT_TRUE(summary.place >= 1 && summary.place <= 16) << played;
+        for (const char *table : {"selects", "caja"})
+            EXPECT_EQ(count(table), 0) << played << ' ' << table;
+        EXPECT_EQ(m_store->integer("select count(distinct puesto_anterior) from asobal"
+                                   " where puesto_anterior between 1 and 16"),
+                  16)
+            << played;
+        EXPECT_EQ(m_store->integer("select sum(Puntos + Goles_Favor + Goles_Contra) from asobal"), 0) << played;
+        EXPECT_EQ(m_store->integer("select max(idjugador) - count(*) from jugadores"), 0) << played;
+        // A league club may sell its only man of a position to the user; it still keeps a
+        // squad, and the rival's imports complete it for its matches (every match is played).
+        EXPECT_EQ(m_store->integer("select count(*) from (select idequipo from jugadores where idequipo between 1 and 16"
+                                   " group by idequipo having count(*) >= 7)"),
+                  16)
+            << played;
+        EXPECT_EQ(season.totals().matches, played * 32) << played;
+        // The next season is planned: two friendlies and the thirty rounds.
+        EXPECT_EQ(count("calendario"), 32) << played;
+        EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 0) << played;
+    }
+    EXPECT_EQ(season.totals().matches, 20 * 32);
+}
