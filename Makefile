@@ -23,6 +23,7 @@ deps:
 bench: build
 	./$(BUILD)/bench/week_bench
 	./$(BUILD)/bench/match_bench
+	./$(BUILD)/bench/career_bench
 
 clean:
 	rm -rf $(BUILD)
