@@ -227,14 +227,7 @@ void AutoSeason::makeAnOffer()
     // A listed player of another club, drawn among the four lists, at the terms he asks.
     const int club = m_week.career().club;
     Market market(m_context);
-    std::vector<int> candidates;
-    for (const Market::Group group :
-         {Market::Group::Goalkeepers, Market::Group::Wings, Market::Group::Backs, Market::Group::Centres}) {
-        for (const Market::Line &line : market.forSale(group)) {
-            if (line.club != club)
-                candidates.push_back(line.id);
-        }
-    }
+    const std::vector<int> candidates = market.idsForSale(club);
     if (candidates.empty())
         return;
     const int player = candidates[std::size_t(m_context.random.draw(int(candidates.size())) - 1)];

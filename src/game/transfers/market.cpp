@@ -58,6 +58,22 @@ std::vector<Market::Line> Market::forSale(Group group)
     return {};
 }
 
+std::vector<int> Market::idsForSale(int exceptClub)
+{
+    std::vector<int> ids;
+    m_context.store.attempt([&] {
+        // The four grids together: goalkeepers, wings, backs and centres, never pivots.
+        GameStore::Query rows = m_context.store.query(
+            "select idjugador from jugadores where venta = 1 and idequipo <> ? and (Posicion = 'Portero'"
+            " or Posicion like '%Extremo %' or Posicion like '%Lateral%' or lower(Posicion) = 'central')"
+            " order by idjugador",
+            exceptClub);
+        while (rows.next())
+            ids.push_back(rows.integer(0));
+    });
+    return ids;
+}
+
 std::vector<Market::Line> Market::squad(Group group)
 {
     GameStore &store = m_context.store;

@@ -42,6 +42,8 @@ public:
 
     // Everybody on the market (venta 1), of any club, the user's own included.
     std::vector<Line> forSale(Group group);
+    // The ids of everybody the four sale grids list, in id order, but for one club's players.
+    std::vector<int> idsForSale(int exceptClub);
     // The user's squad in the group, with the years of each contract.
     std::vector<Line> squad(Group group);
 

@@ -161,3 +161,22 @@ TEST_F(MarketTest, theYouthPoolByPositionAndAPlayersCard)
     EXPECT_EQ(card->lesion, m_store->text("select nombre_lesion from lesiones where idlesion = 0"));
     EXPECT_FALSE(market.card(999999).has_value());
 }
+
+// Guards: the ids the busy manager draws from straying from what the four sale grids show.
+TEST_F(MarketTest, theIdsForSaleAreTheFourGridsButOneClubs)
+{
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update jugadores set venta = 1 where idjugador % 7 = 0");
+    }).ok());
+    Market market(*m_context);
+    std::vector<int> fromGrids;
+    for (auto group : {Market::Group::Goalkeepers, Market::Group::Wings, Market::Group::Backs, Market::Group::Centres}) {
+        for (const Market::Line &line : market.forSale(group)) {
+            if (line.club != kClub)
+                fromGrids.push_back(line.id);
+        }
+    }
+    std::sort(fromGrids.begin(), fromGrids.end());
+    ASSERT_FALSE(fromGrids.empty());
+    EXPECT_EQ(market.idsForSale(kClub), fromGrids);
+}
