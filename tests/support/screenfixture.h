@@ -13,6 +13,7 @@
 #include <QMainWindow>
 #include <QPainter>
 #include <QPushButton>
+#include <QTableView>
 #include <QTest>
 
 // A screen test: the real navigator and widgets over a copy of the pristine database, with
@@ -89,6 +90,17 @@ protected:
         QApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QApplication::processEvents();
+    }
+
+    // Presses a row of a grid as the player does, on its second column's cell (the first is
+    // the player's number, kept out of sight).
+    void pickRow(QTableView *grid, int row)
+    {
+        ASSERT_GT(grid->model()->rowCount(), row);
+        const QModelIndex index = grid->model()->index(row, 1);
+        grid->scrollTo(index);
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(index).center());
+        settle();
     }
 
     // Types into a box as the player would; text beyond ASCII goes in as one insertion.

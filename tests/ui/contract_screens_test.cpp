@@ -132,15 +132,6 @@ protected:
         return grid->model()->index(row, column).data().toString();
     }
 
-    // Presses a row of a grid as the player does, on its second column's cell.
-    void pickRow(QTableView *grid, int row)
-    {
-        ASSERT_GT(grid->model()->rowCount(), row);
-        const QModelIndex index = grid->model()->index(row, 1);
-        grid->scrollTo(index);
-        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(index).center());
-        settle();
-    }
 
     // Writes a sum in a box as the player does: what is there is selected and typed over,
     // and the box is left.

@@ -150,15 +150,6 @@ protected:
         return grid->model()->index(row, column).data().toString();
     }
 
-    // Presses a row of a grid as the player does, on its second column's cell.
-    void pickRow(QTableView *grid, int row)
-    {
-        ASSERT_GT(grid->model()->rowCount(), row);
-        const QModelIndex index = grid->model()->index(row, 1);
-        grid->scrollTo(index);
-        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(index).center());
-        settle();
-    }
 
     void pickClub(const QString &name)
     {

@@ -328,13 +328,6 @@ TEST_F(NavigatorScreens, anOfferIsAnsweredThreeWeeksLaterAndAListedPlayerIsSoldO
     reachFirstLeagueWeek();
     if (m_navigator->screen(QStringLiteral("Tele")))
         click(QStringLiteral("cmdOK"));
-    auto pickRow = [this](QTableView *grid, int row) {
-        ASSERT_GT(grid->model()->rowCount(), row);
-        const QModelIndex index = grid->model()->index(row, 1);
-        grid->scrollTo(index);
-        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(index).center());
-        settle();
-    };
     // Each screen's own way back, until the panel is on show.
     auto backToPanel = [this] {
         for (int step = 0; step < 5 && m_navigator->current()->objectName() != QStringLiteral("Panel_Control_Manager");

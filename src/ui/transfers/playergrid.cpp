@@ -1,9 +1,13 @@
 #include "playergrid.h"
 
 #include "common/gridstyle.h"
+#include "common/plainlabel.h"
 #include "common/rowsmodel.h"
 
+#include <QGridLayout>
 #include <QHeaderView>
+#include <QLabel>
+#include <QVBoxLayout>
 
 namespace ui {
 
@@ -81,6 +85,42 @@ void PlayerGrid::setPlayers(const std::vector<game::Market::Line> &players)
 int PlayerGrid::playerAt(int row) const
 {
     return row >= 0 && row < m_rows->rowCount() ? m_rows->row(row).at(0).toInt() : 0;
+}
+
+QGridLayout *groupGrids(std::vector<PlayerGrid::Column> columns,
+                        const std::function<std::vector<game::Market::Line>(game::Market::Group)> &players,
+                        const std::function<void(int)> &picked, int spacing)
+{
+    struct Group
+    {
+        const char *name;
+        QString caption;
+        game::Market::Group group;
+    };
+    const Group groups[] = {
+        {"DGPorteros", QObject::tr("Porteros"), game::Market::Group::Goalkeepers},
+        {"DGExtremos", QObject::tr("Extremos"), game::Market::Group::Wings},
+        {"DGLaterales", QObject::tr("Laterales"), game::Market::Group::Backs},
+        {"DataGrid4", QObject::tr("Centrales"), game::Market::Group::Centres},
+    };
+    auto *grids = new QGridLayout;
+    grids->setHorizontalSpacing(spacing);
+    grids->setVerticalSpacing(8);
+    int place = 0;
+    for (const Group &group : groups) {
+        auto *grid = new PlayerGrid(group.name, columns);
+        grid->setPlayers(players(group.group));
+        QObject::connect(grid, &PlayerGrid::playerPicked, grid, picked);
+        QLabel *caption = plainLabel(group.caption);
+        caption->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
+        auto *box = new QVBoxLayout;
+        box->setSpacing(4);
+        box->addWidget(caption);
+        box->addWidget(grid, 1);
+        grids->addLayout(box, place / 2, place % 2);
+        ++place;
+    }
+    return grids;
 }
 
 } // namespace ui

@@ -4,8 +4,11 @@
 
 #include <QTableView>
 
+#include <functional>
+
 #include <vector>
 
+class QGridLayout;
 class RowsModel;
 
 namespace ui {
@@ -34,5 +37,12 @@ private:
     std::vector<Column> m_columns;
     RowsModel *m_rows;
 };
+
+// The four position groups of a screen of players (goalkeepers, wings, backs, centres), each
+// a captioned grid, two by two; pivots have no grid of their own. Each grid reads its players
+// from `players` and reports a row picked to `picked`.
+QGridLayout *groupGrids(std::vector<PlayerGrid::Column> columns,
+                        const std::function<std::vector<game::Market::Line>(game::Market::Group)> &players,
+                        const std::function<void(int)> &picked, int spacing);
 
 } // namespace ui

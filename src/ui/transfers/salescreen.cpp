@@ -13,17 +13,6 @@
 
 namespace ui {
 
-namespace {
-
-QLabel *caption(const QString &text)
-{
-    QLabel *label = plainLabel(text);
-    label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
-    return label;
-}
-
-} // namespace
-
 SaleScreen::SaleScreen(game::Context context, QWidget *parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("Fichar_EnVenta"));
@@ -31,38 +20,11 @@ SaleScreen::SaleScreen(game::Context context, QWidget *parent) : QWidget(parent)
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QStringLiteral("QWidget#Fichar_EnVenta { background-color: #0f1e3c; }"));
 
-    // The four groups of the market. Pivots have no grid of their own: a listed pivot is
-    // reached through the clubs or the scout.
-    struct Group
-    {
-        const char *name;
-        QString caption;
-        game::Market::Group group;
-    };
-    const Group groups[] = {
-        {"DGPorteros", tr("Porteros"), game::Market::Group::Goalkeepers},
-        {"DGExtremos", tr("Extremos"), game::Market::Group::Wings},
-        {"DGLaterales", tr("Laterales"), game::Market::Group::Backs},
-        {"DataGrid4", tr("Centrales"), game::Market::Group::Centres},
-    };
     game::Market market(context);
-    auto *grids = new QGridLayout;
-    grids->setHorizontalSpacing(20);
-    grids->setVerticalSpacing(8);
-    int place = 0;
-    for (const Group &group : groups) {
-        using Column = PlayerGrid::Column;
-        auto *grid = new PlayerGrid(group.name, {Column::Nombre, Column::Apellidos, Column::Edad, Column::Posicion,
-                                                 Column::Media});
-        grid->setPlayers(market.forSale(group.group));
-        connect(grid, &PlayerGrid::playerPicked, this, &SaleScreen::playerPicked);
-        auto *box = new QVBoxLayout;
-        box->setSpacing(4);
-        box->addWidget(caption(group.caption));
-        box->addWidget(grid, 1);
-        grids->addLayout(box, place / 2, place % 2);
-        ++place;
-    }
+    QGridLayout *grids = groupGrids({PlayerGrid::Column::Nombre, PlayerGrid::Column::Apellidos, PlayerGrid::Column::Edad,
+                                     PlayerGrid::Column::Posicion, PlayerGrid::Column::Media},
+                                    [&market](game::Market::Group group) { return market.forSale(group); },
+                                    [this](int player) { emit playerPicked(player); }, 20);
 
     auto *back = new QPushButton(tr("<- VOLVER"));
     back->setObjectName(QStringLiteral("cmdVOLVER"));
