@@ -6,9 +6,29 @@ namespace game {
 
 namespace {
 
+// A name read through its folded letters: a QString already case-folded, or UTF-8 bytes that
+// are all ASCII, folded one at a time as they are read (no copy, no conversion).
+struct FoldedText {
+    const QString &text;
+    qsizetype size() const { return text.size(); }
+    char16_t at(qsizetype i) const { return text.at(i).unicode(); }
+};
+
+struct AsciiText {
+    const unsigned char *bytes;
+    qsizetype length;
+    qsizetype size() const { return length; }
+    char16_t at(qsizetype i) const
+    {
+        const unsigned char c = bytes[i];
+        return c >= 'A' && c <= 'Z' ? char16_t(c + ('a' - 'A')) : char16_t(c);
+    }
+};
+
 // Classic wildcard matching with one point of backtracking for the last %: linear for the
-// patterns the game uses and never recursive.
-bool matchFolded(const QString &pattern, const QString &text, QChar escape)
+// patterns the game uses and never recursive. A null escape (0) means none.
+template <typename Text>
+bool matchFolded(const Text &pattern, const Text &text, char16_t escape)
 {
     qsizetype p = 0;
     qsizetype t = 0;
@@ -16,8 +36,8 @@ bool matchFolded(const QString &pattern, const QString &text, QChar escape)
     qsizetype starText = 0;
     while (t < text.size()) {
         if (p < pattern.size()) {
-            QChar c = pattern.at(p);
-            if (!escape.isNull() && c == escape && p + 1 < pattern.size()) {
+            const char16_t c = pattern.at(p);
+            if (escape != 0 && c == escape && p + 1 < pattern.size()) {
                 if (pattern.at(p + 1) == text.at(t)) {
                     p += 2;
                     ++t;
@@ -43,6 +63,15 @@ bool matchFolded(const QString &pattern, const QString &text, QChar escape)
     return p == pattern.size();
 }
 
+bool isAscii(const unsigned char *bytes, int length)
+{
+    for (int i = 0; i < length; ++i) {
+        if (bytes[i] >= 0x80)
+            return false;
+    }
+    return true;
+}
+
 QString argumentText(sqlite3_value *value)
 {
     const auto *bytes = reinterpret_cast<const char *>(sqlite3_value_text(value));
@@ -64,7 +93,18 @@ void sqlLike(sqlite3_context *context, int argc, sqlite3_value **argv)
         }
         escape = escapeText.at(0).toCaseFolded();
     }
-    // like(X, Y) is "Y like X": the pattern comes first.
+    // like(X, Y) is "Y like X": the pattern comes first. Most of what the game matches
+    // (positions, plain names) is ASCII: those are folded byte by byte without building strings.
+    const auto *pattern = sqlite3_value_text(argv[0]);
+    const int patternLength = sqlite3_value_bytes(argv[0]);
+    const auto *text = sqlite3_value_text(argv[1]);
+    const int textLength = sqlite3_value_bytes(argv[1]);
+    if (escape.unicode() < 0x80 && isAscii(pattern, patternLength) && isAscii(text, textLength)) {
+        const bool matches = matchFolded(AsciiText{pattern, patternLength}, AsciiText{text, textLength},
+                                         escape.unicode());
+        sqlite3_result_int(context, matches ? 1 : 0);
+        return;
+    }
     sqlite3_result_int(context, likeMatches(argumentText(argv[0]), argumentText(argv[1]), escape) ? 1 : 0);
 }
 
@@ -72,7 +112,9 @@ void sqlLike(sqlite3_context *context, int argc, sqlite3_value **argv)
 
 bool likeMatches(const QString &pattern, const QString &text, QChar escape)
 {
-    return matchFolded(pattern.toCaseFolded(), text.toCaseFolded(), escape.toCaseFolded());
+    const QString foldedPattern = pattern.toCaseFolded();
+    const QString foldedText = text.toCaseFolded();
+    return matchFolded(FoldedText{foldedPattern}, FoldedText{foldedText}, escape.toCaseFolded().unicode());
 }
 
 void registerUnicodeLike(sqlite3 *connection)
