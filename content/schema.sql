@@ -40,7 +40,7 @@ CREATE TABLE jugadores (
 );
 CREATE INDEX jugadores_por_equipo ON jugadores (idequipo, Posicion, Media);
 -- The market's lists read the few players on sale among all of them.
-CREATE INDEX jugadores_en_venta ON jugadores (venta) WHERE venta = 1;
+CREATE INDEX jugadores_en_venta ON jugadores (venta, idjugador, idequipo, Posicion) WHERE venta = 1;
 
 CREATE TABLE lesiones (
     idlesion      INTEGER PRIMARY KEY,

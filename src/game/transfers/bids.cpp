@@ -18,11 +18,13 @@ Bids::Outcome Bids::run()
     Outcome outcome = Outcome::NoBid;
     const Result done = store.run([&] {
         const CareerRow career = Career::read(store);
-        // The club's listed players are read once; the draws then look among them.
+        // The club's listed players are read once; the draws then look among them. They are
+        // found through the club's own players, a few dozen, not through the whole market.
         QSet<int> listed;
         {
-            GameStore::Query rows = store.query("select idjugador from jugadores where venta = 1 and idequipo = ?",
-                                                career.club);
+            GameStore::Query rows = store.query(
+                "select idjugador from jugadores indexed by jugadores_por_equipo where idequipo = ? and venta = 1",
+                career.club);
             while (rows.next())
                 listed.insert(rows.integer(0));
         }

@@ -4,6 +4,8 @@
 #include "career/leagueclubs.h"
 #include "store/gamestore.h"
 
+#include <string_view>
+
 namespace game {
 
 namespace {
@@ -58,20 +60,35 @@ std::vector<Market::Line> Market::forSale(Group group)
     return {};
 }
 
-std::vector<int> Market::idsForSale(int exceptClub)
+static_assert(std::u16string_view(kPositions[5]) == u"Pivote", "the pivot is the one position no grid lists");
+
+namespace {
+
+// The four grids together are every listed player but the pivots: goalkeepers, wings (either
+// side), backs (either side) and centres. A player's position is always one of the seven names,
+// so leaving the pivot out by name picks the same players as the grids' likes, without a like
+// on every row of a market that, late in a long career, holds most of the league.
+constexpr const char *kOnSaleButOneClub = "from jugadores where venta = 1 and idequipo <> ? and Posicion <> ? ";
+
+QString pivot()
 {
-    std::vector<int> ids;
-    m_context.store.attempt([&] {
-        // The four grids together: goalkeepers, wings, backs and centres, never pivots.
-        GameStore::Query rows = m_context.store.query(
-            "select idjugador from jugadores where venta = 1 and idequipo <> ? and (Posicion = 'Portero'"
-            " or Posicion like '%Extremo %' or Posicion like '%Lateral%' or lower(Posicion) = 'central')"
-            " order by idjugador",
-            exceptClub);
-        while (rows.next())
-            ids.push_back(rows.integer(0));
-    });
-    return ids;
+    return QString::fromUtf16(kPositions[5]);
+}
+
+} // namespace
+
+int Market::countForSale(int exceptClub)
+{
+    return int(m_context.store.integer(std::string("select count(*) ") + kOnSaleButOneClub, exceptClub, pivot()));
+}
+
+int Market::idForSale(int exceptClub, int nth)
+{
+    if (nth < 1)
+        return 0;
+    return int(m_context.store.integer(std::string("select idjugador ") + kOnSaleButOneClub
+                                           + "order by idjugador limit 1 offset ?",
+                                       exceptClub, pivot(), nth - 1));
 }
 
 std::vector<Market::Line> Market::squad(Group group)

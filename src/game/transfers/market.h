@@ -42,8 +42,11 @@ public:
 
     // Everybody on the market (venta 1), of any club, the user's own included.
     std::vector<Line> forSale(Group group);
-    // The ids of everybody the four sale grids list, in id order, but for one club's players.
-    std::vector<int> idsForSale(int exceptClub);
+    // How many players the four sale grids list, one club's players left out; and the nth of
+    // them (from 1) in id order, 0 past the last. Counted and picked inside the store, so a
+    // draw among a market of a thousand players does not read a thousand rows.
+    int countForSale(int exceptClub);
+    int idForSale(int exceptClub, int nth);
     // The user's squad in the group, with the years of each contract.
     std::vector<Line> squad(Group group);
 

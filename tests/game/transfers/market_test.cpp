@@ -163,7 +163,7 @@ TEST_F(MarketTest, theYouthPoolByPositionAndAPlayersCard)
 }
 
 // Guards: the ids the busy manager draws from straying from what the four sale grids show.
-TEST_F(MarketTest, theIdsForSaleAreTheFourGridsButOneClubs)
+TEST_F(MarketTest, theDrawForSaleCountsAndPicksFromTheFourGridsButOneClubs)
 {
     ASSERT_TRUE(m_store->run([&] {
         m_store->execute("update jugadores set venta = 1 where idjugador % 7 = 0");
@@ -178,5 +178,9 @@ TEST_F(MarketTest, theIdsForSaleAreTheFourGridsButOneClubs)
     }
     std::sort(fromGrids.begin(), fromGrids.end());
     ASSERT_FALSE(fromGrids.empty());
-    EXPECT_EQ(market.idsForSale(kClub), fromGrids);
+    ASSERT_EQ(market.countForSale(kClub), int(fromGrids.size()));
+    for (std::size_t i = 0; i < fromGrids.size(); ++i)
+        EXPECT_EQ(market.idForSale(kClub, int(i) + 1), fromGrids[i]) << "number " << i + 1;
+    EXPECT_EQ(market.idForSale(kClub, int(fromGrids.size()) + 1), 0);
+    EXPECT_EQ(market.idForSale(kClub, 0), 0);
 }
