@@ -11,7 +11,9 @@
 
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <vector>
 
 namespace {
@@ -25,9 +27,10 @@ long peakKilobytes()
 
 } // namespace
 
-int main()
+int main(int argc, char **argv)
 {
-    constexpr int kSeasons = 100;
+    // A hundred seasons unless told otherwise (a shorter run suits a profiler).
+    const int kSeasons = argc > 1 ? std::max(10, std::atoi(argv[1])) : 100;
     QTemporaryDir folder;
     game::GameStore store(folder.filePath(QStringLiteral("balonmano.mdb")), QStringLiteral(ZARPAZO_PRISTINE));
     if (!store.open()) {
@@ -37,7 +40,8 @@ int main()
     game::SystemRandom random(2004);
     SilentDialogs dialogs;
     game::Context context{store, random, dialogs};
-    game::AutoSeason career(context, {3, 5, game::AutoSeason::Policy::Busy});
+    constexpr int kClub = 3;
+    game::AutoSeason career(context, {kClub, 5, game::AutoSeason::Policy::Busy});
 
     const auto started = Clock::now();
     if (!career.begin())
@@ -64,6 +68,18 @@ int main()
     }
     std::printf("career: %d busy seasons in %.2f s (%.1f ms a season); first ten %.1f ms a season, last ten %.1f ms\n",
                 kSeasons, total, total * 1e3 / kSeasons, first * 100, last * 100);
+    // The cost of each tenth of the career, to see where it levels off: the market fills as
+    // listed players stay listed, and the busy club's squad grows until the bids keep pace.
+    std::printf("ms a season by tens of seasons:");
+    for (int decade = 0; decade + 10 <= kSeasons; decade += 10) {
+        double sum = 0;
+        for (int i = decade; i < decade + 10; ++i)
+            sum += seasonSeconds[std::size_t(i)];
+        std::printf(" %.1f", sum * 100);
+    }
+    std::printf("\nat the end: %lld players listed, %lld in the club's squad\n",
+                static_cast<long long>(store.integer("select count(*) from jugadores where venta = 1")),
+                static_cast<long long>(store.integer("select count(*) from jugadores where idequipo = ?", kClub)));
     std::printf("peak memory: %ld KiB after the first season, %ld KiB after the last; %llu statements\n",
                 peakAfterFirst, peakKilobytes(), static_cast<unsigned long long>(store.statementsRun()));
     return 0;
