@@ -469,6 +469,23 @@ TEST_F(NavigatorScreens, theLastRoundLeadsToTheVerdictAndTheNextPreseason)
     EXPECT_EQ(count("caja"), 1);
     EXPECT_EQ(m_store->integer("select presupuesto from infoteams where idequipo = ?", club()),
               budget - m_store->integer("select Gastos_Fichas + Gastos_Empleados from caja where semana = 1"));
+
+    // The close ranked the champion 16; the table of the new season, everybody on nought, puts
+    // the first club at the top and writes 1 there, while last season's places stay for the
+    // fixtures.
+    const int champion16 = int(m_store->integer("select teams from asobal where puesto_anterior = 16"));
+    EXPECT_EQ(m_store->integer("select puesto_actual from asobal where teams = ?", champion16), 16);
+    click(QStringLiteral("cmdClasificacion"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Clasificacion"));
+    EXPECT_EQ(indexed::find(m_navigator->current(), QStringLiteral("lblPos"), 0)->text(), QStringLiteral("1"));
+    EXPECT_EQ(indexed::find(m_navigator->current(), QStringLiteral("lblEquipo"), 0)->text(),
+              m_store->text("select NombreEquipo from equipos where idequipo = 1"));
+    EXPECT_EQ(m_store->integer("select puesto_actual from asobal where teams = 1"), 1);
+    EXPECT_EQ(m_store->integer("select count(distinct puesto_actual) from asobal where puesto_actual between 1 and 16"),
+              16);
+    EXPECT_EQ(m_store->integer("select puesto_anterior from asobal where teams = ?", champion16), 16);
+    click(QStringLiteral("cmdVOLVER"));
+    EXPECT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
 }
 
 // Guards: forty-letter names of players and a very long rival club widening the match
