@@ -103,14 +103,26 @@ bool CallUp::readyToPlay()
 
 void CallUp::chooseBest()
 {
-    std::vector<Player> players = squad();
-    std::stable_sort(players.begin(), players.end(), [](const Player &a, const Player &b) { return a.media > b.media; });
+    // The squad from the best down; among equals, as the squad lists them (by position, then
+    // id). Only what the choice needs is read, straight from the club's index.
+    struct Candidate {
+        int id = 0;
+        QString posicion;
+    };
+    std::vector<Candidate> players;
+    m_context.store.attempt([&] {
+        GameStore::Query rows = m_context.store.query("select idjugador, Posicion from jugadores where idequipo = ?"
+                                                      " order by Media desc, Posicion, idjugador",
+                                                      Career::club(m_context.store));
+        while (rows.next())
+            players.push_back({rows.integer(0), rows.text(1)});
+    });
     std::set<int> chosen;
     std::vector<int> lineUp;
     for (const char16_t *position : kPositions) {
         const QString wanted = QString::fromUtf16(position);
         int best = 0;
-        for (const Player &player : players) {
+        for (const Candidate &player : players) {
             if (player.posicion == wanted && !chosen.count(player.id)) {
                 best = player.id;
                 break;
@@ -118,7 +130,7 @@ void CallUp::chooseBest()
         }
         // A position nobody plays goes to the best player left.
         if (best == 0) {
-            for (const Player &player : players) {
+            for (const Candidate &player : players) {
                 if (!chosen.count(player.id)) {
                     best = player.id;
                     break;
@@ -128,7 +140,7 @@ void CallUp::chooseBest()
         chosen.insert(best);
         lineUp.push_back(best);
     }
-    for (const Player &player : players) {
+    for (const Candidate &player : players) {
         if (lineUp.size() == std::size_t(kPlaces))
             break;
         if (!chosen.count(player.id)) {
