@@ -38,7 +38,7 @@ CREATE TABLE jugadores (
     libre3            INTEGER NOT NULL DEFAULT 0,
     "Años_Contrato"   INTEGER NOT NULL
 );
-CREATE INDEX jugadores_por_equipo ON jugadores (idequipo, Posicion, Media);
+CREATE INDEX jugadores_por_equipo ON jugadores (idequipo, Posicion, Media, venta);
 -- The market's lists read the few players on sale among all of them.
 CREATE INDEX jugadores_en_venta ON jugadores (venta, idjugador, idequipo, Posicion) WHERE venta = 1;
 

@@ -227,10 +227,9 @@ void AutoSeason::makeAnOffer()
     // A listed player of another club, drawn among the four lists, at the terms he asks.
     const int club = m_week.career().club;
     Market market(m_context);
-    const int candidates = market.countForSale(club);
-    if (candidates == 0)
+    const int player = market.drawForSale(club);
+    if (player == 0)
         return;
-    const int player = market.idForSale(club, m_context.random.draw(candidates));
     const std::optional<Market::Card> card = market.card(player);
     if (card && Offers(m_context).make(player, {card->clausula, card->clausula, card->ficha, 5}))
         ++m_totals.offersMade;

@@ -2,6 +2,7 @@
 
 #include "career/career.h"
 #include "career/leagueclubs.h"
+#include "random.h"
 #include "store/gamestore.h"
 
 #include <string_view>
@@ -76,6 +77,30 @@ QString pivot()
 }
 
 } // namespace
+
+int Market::drawForSale(int exceptClub)
+{
+    GameStore &store = m_context.store;
+    // First a few blind draws among every player's id, as a bid draws: late in a career, when
+    // the lists hold most of the league, one of them lands without counting a thousand rows.
+    // A blind draw is as likely to land on any player of the lists, so the pick stays even;
+    // when they all miss (a small market), the lists are counted and one is drawn among them.
+    const int highest = int(store.integer("select max(idjugador) from jugadores"));
+    for (int draw = 0; draw < kBlindDraws && highest > 0; ++draw) {
+        const int player = m_context.random.draw(highest);
+        if (isForSale(player, exceptClub))
+            return player;
+    }
+    const int candidates = countForSale(exceptClub);
+    return candidates == 0 ? 0 : idForSale(exceptClub, m_context.random.draw(candidates));
+}
+
+bool Market::isForSale(int player, int exceptClub)
+{
+    return m_context.store.integer(std::string("select count(*) ") + kOnSaleButOneClub + "and idjugador = ?",
+                                   exceptClub, pivot(), player)
+        == 1;
+}
 
 int Market::countForSale(int exceptClub)
 {

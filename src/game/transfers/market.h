@@ -42,11 +42,11 @@ public:
 
     // Everybody on the market (venta 1), of any club, the user's own included.
     std::vector<Line> forSale(Group group);
-    // How many players the four sale grids list, one club's players left out; and the nth of
-    // them (from 1) in id order, 0 past the last. Counted and picked inside the store, so a
-    // draw among a market of a thousand players does not read a thousand rows.
-    int countForSale(int exceptClub);
-    int idForSale(int exceptClub, int nth);
+    // One player of the four sale grids, of any club but one, drawn at random with every one
+    // as likely; 0 when they list nobody else.
+    int drawForSale(int exceptClub);
+    // Blind draws among every player's id before the lists are counted.
+    static constexpr int kBlindDraws = 8;
     // The user's squad in the group, with the years of each contract.
     std::vector<Line> squad(Group group);
 
@@ -94,6 +94,12 @@ public:
     std::optional<Card> card(int player);
 
 private:
+    // How many players the four grids list, one club's players left out; and the nth of them
+    // (from 1) in id order, 0 past the last.
+    int countForSale(int exceptClub);
+    int idForSale(int exceptClub, int nth);
+    bool isForSale(int player, int exceptClub);
+
     Context m_context;
 };
 

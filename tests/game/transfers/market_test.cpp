@@ -162,8 +162,10 @@ TEST_F(MarketTest, theYouthPoolByPositionAndAPlayersCard)
     EXPECT_FALSE(market.card(999999).has_value());
 }
 
-// Guards: the ids the busy manager draws from straying from what the four sale grids show.
-TEST_F(MarketTest, theDrawForSaleCountsAndPicksFromTheFourGridsButOneClubs)
+// Guards: the busy manager's draw straying from what the four sale grids show (a pivot, his
+// own man, a player not listed), a blind draw that lands on such a player and is taken, or a
+// draw among the lists that skips one or reaches past the last.
+TEST_F(MarketTest, theDrawForSaleTakesOnlyWhatTheFourGridsShowButOneClubs)
 {
     ASSERT_TRUE(m_store->run([&] {
         m_store->execute("update jugadores set venta = 1 where idjugador % 7 = 0");
@@ -178,9 +180,34 @@ TEST_F(MarketTest, theDrawForSaleCountsAndPicksFromTheFourGridsButOneClubs)
     }
     std::sort(fromGrids.begin(), fromGrids.end());
     ASSERT_FALSE(fromGrids.empty());
-    ASSERT_EQ(market.countForSale(kClub), int(fromGrids.size()));
-    for (std::size_t i = 0; i < fromGrids.size(); ++i)
-        EXPECT_EQ(market.idForSale(kClub, int(i) + 1), fromGrids[i]) << "number " << i + 1;
-    EXPECT_EQ(market.idForSale(kClub, int(fromGrids.size()) + 1), 0);
-    EXPECT_EQ(market.idForSale(kClub, 0), 0);
+    const int highest = int(m_store->integer("select max(idjugador) from jugadores"));
+    const int unlisted = int(m_store->integer("select min(idjugador) from jugadores where venta = 0"));
+    const int ownListed = int(m_store->integer(
+        "select min(idjugador) from jugadores where venta = 1 and idequipo = ? and Posicion <> 'Pivote'", kClub));
+    const int listedPivot = int(m_store->integer(
+        "select min(idjugador) from jugadores where venta = 1 and idequipo <> ? and Posicion = 'Pivote'", kClub));
+    ASSERT_GT(ownListed, 0);
+    ASSERT_GT(listedPivot, 0);
+
+    // Blind draws on a player not listed, the club's own listed man and a listed pivot miss;
+    // the next, on a listed player of another club, is taken.
+    for (int miss : {unlisted, ownListed, listedPivot})
+        m_random.scriptDraw(miss, highest);
+    m_random.scriptDraw(fromGrids.back(), highest);
+    EXPECT_EQ(market.drawForSale(kClub), fromGrids.back());
+
+    // When every blind draw misses, the lists are counted and each of them can be drawn, in
+    // id order, and nobody else.
+    for (std::size_t i = 0; i < fromGrids.size(); ++i) {
+        for (int blind = 0; blind < Market::kBlindDraws; ++blind)
+            m_random.scriptDraw(unlisted, highest);
+        m_random.scriptDraw(int(i) + 1, int(fromGrids.size()));
+        EXPECT_EQ(market.drawForSale(kClub), fromGrids[i]) << "number " << i + 1;
+    }
+
+    // A market with nobody but the club's own: no player, whatever the draws.
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update jugadores set venta = 0 where idequipo <> ?", kClub);
+    }).ok());
+    EXPECT_EQ(market.drawForSale(kClub), 0);
 }
