@@ -3,8 +3,10 @@
 #include "plainlabel.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QFont>
 #include <QLabel>
+#include <QPushButton>
 
 namespace theme {
 
@@ -59,6 +61,14 @@ QLabel *fieldCaption(const QString &text, QWidget *parent)
     QLabel *label = ui::plainLabel(text, parent);
     label->setStyleSheet(QStringLiteral("color: #b9c3d8; font-weight: bold;"));
     return label;
+}
+
+QPushButton *backButton(QWidget *parent)
+{
+    auto *button = new QPushButton(QCoreApplication::translate("theme", "<- VOLVER"), parent);
+    button->setObjectName(QStringLiteral("cmdVOLVER"));
+    button->setProperty("role", QStringLiteral("secondary"));
+    return button;
 }
 
 } // namespace theme

@@ -4,6 +4,7 @@
 
 class QApplication;
 class QLabel;
+class QPushButton;
 class QWidget;
 
 // The look of the game: deep navy screens, light text, amber buttons, bold headings.
@@ -20,5 +21,10 @@ QLabel *fieldCaption(const QString &text, QWidget *parent = nullptr);
 
 // A screen heading in the game's style ("INTRODUCE NOMBRE Y EQUIPO").
 QLabel *heading(const QString &text, QWidget *parent = nullptr);
+
+// The "<- VOLVER" button ("cmdVOLVER") that leaves a screen for the one it was opened from.
+// Leaving is never the act the screen is there for, so it wears the quieter secondary colours
+// and the screen's own button keeps the amber.
+QPushButton *backButton(QWidget *parent = nullptr);
 
 } // namespace theme

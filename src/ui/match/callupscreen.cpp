@@ -49,9 +49,7 @@ CallUpScreen::CallUpScreen(game::Context context, QWidget *parent)
         if (m_callUp.readyToPlay())
             emit playRequested();
     });
-    auto *back = new QPushButton(tr("<- VOLVER"));
-    back->setObjectName(QStringLiteral("cmdVOLVER"));
-    back->setProperty("role", QStringLiteral("secondary"));
+    auto *back = theme::backButton();
     connect(back, &QPushButton::clicked, this, &CallUpScreen::closeRequested);
 
     auto *left = new QVBoxLayout;

@@ -122,9 +122,7 @@ AddYouthScreen::AddYouthScreen(game::Context context, QWidget *parent) : QDialog
     agregar->setObjectName(QStringLiteral("cmdAgregar"));
     agregar->setDefault(true);
     connect(agregar, &QPushButton::clicked, this, &AddYouthScreen::add);
-    auto *close = new QPushButton(tr("<- VOLVER"));
-    close->setObjectName(QStringLiteral("cmdVOLVER"));
-    close->setProperty("role", QStringLiteral("secondary"));
+    auto *close = theme::backButton();
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
 
     auto *buttons = new QHBoxLayout;

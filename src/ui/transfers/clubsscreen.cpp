@@ -52,9 +52,7 @@ ClubsScreen::ClubsScreen(game::Context context, QWidget *parent) : QWidget(paren
     body->addWidget(buildCountries(), 0);
     body->addWidget(buildSquad(), 1);
 
-    auto *back = new QPushButton(tr("<- VOLVER"));
-    back->setObjectName(QStringLiteral("cmdVOLVER"));
-    back->setProperty("role", QStringLiteral("secondary"));
+    auto *back = theme::backButton();
     connect(back, &QPushButton::clicked, this, &ClubsScreen::closeRequested);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(back);

@@ -26,9 +26,7 @@ SaleScreen::SaleScreen(game::Context context, QWidget *parent) : QWidget(parent)
                                     [&market](game::Market::Group group) { return market.forSale(group); },
                                     [this](int player) { emit playerPicked(player); }, 20);
 
-    auto *back = new QPushButton(tr("<- VOLVER"));
-    back->setObjectName(QStringLiteral("cmdVOLVER"));
-    back->setProperty("role", QStringLiteral("secondary"));
+    auto *back = theme::backButton();
     connect(back, &QPushButton::clicked, this, &SaleScreen::closeRequested);
     auto *offers = new QPushButton(tr("OFERTAS"));
     offers->setObjectName(QStringLiteral("cmdOfertas"));

@@ -74,9 +74,7 @@ ScoutScreen::ScoutScreen(game::Context context, QWidget *parent) : QWidget(paren
     body->addWidget(buildCriteria(), 0);
     body->addLayout(right, 1);
 
-    auto *back = new QPushButton(tr("<- VOLVER"));
-    back->setObjectName(QStringLiteral("cmdVOLVER"));
-    back->setProperty("role", QStringLiteral("secondary"));
+    auto *back = theme::backButton();
     connect(back, &QPushButton::clicked, this, &ScoutScreen::closeRequested);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(back);

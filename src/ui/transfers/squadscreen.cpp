@@ -26,9 +26,7 @@ SquadScreen::SquadScreen(game::Context context, QWidget *parent) : QWidget(paren
                                     [&market](game::Market::Group group) { return market.squad(group); },
                                     [this](int player) { emit playerPicked(player); }, 12);
 
-    auto *back = new QPushButton(tr("<- VOLVER"));
-    back->setObjectName(QStringLiteral("cmdVOLVER"));
-    back->setProperty("role", QStringLiteral("secondary"));
+    auto *back = theme::backButton();
     connect(back, &QPushButton::clicked, this, &SquadScreen::closeRequested);
     auto *youth = new QPushButton(tr("JUVENILES"));
     youth->setObjectName(QStringLiteral("cmdJuveniles"));

@@ -58,9 +58,7 @@ YouthScreen::YouthScreen(game::Context context, QWidget *parent) : QWidget(paren
     body->addLayout(left);
     body->addLayout(right, 1);
 
-    auto *back = new QPushButton(tr("<- VOLVER"));
-    back->setObjectName(QStringLiteral("cmdVOLVER"));
-    back->setProperty("role", QStringLiteral("secondary"));
+    auto *back = theme::backButton();
     connect(back, &QPushButton::clicked, this, &YouthScreen::closeRequested);
     auto *hint = plainLabel(tr("Elige una posición y pulsa «BUSCAR PROMESA»; pulsa sobre un joven para hacerle una "
                                "oferta."));
