@@ -9,7 +9,6 @@
 #include "transfers/market.h"
 #include "transfers/offers.h"
 
-#include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -47,36 +46,17 @@ ContractScreen::ContractScreen(game::Context context, QWidget *parent) : QWidget
     playerLayout->addWidget(m_listing);
 
     m_stepper = new Stepper(this);
-    m_clausula = new MoneyBox("txtclausula");
-    m_ficha = new MoneyBox("txtficha");
-    m_years = new YearsBox;
-    // As on the offer, terms that the game shows and never reads.
-    m_freedom = new QCheckBox(tr("Libertad por Descenso"));
-    m_freedom->setObjectName(QStringLiteral("Check1"));
-    m_house = new QCheckBox(tr("Casa y Coche"));
-    m_house->setObjectName(QStringLiteral("Check2"));
-
-    auto *terms = new QGroupBox(tr("NUEVO CONTRATO"));
-    auto *termsLayout = new QVBoxLayout(terms);
-    termsLayout->setContentsMargins(20, 20, 20, 16);
-    termsLayout->setSpacing(12);
-    termsLayout->addWidget(m_stepper->field(tr("CLAUSULA DE RESCISIÓN"), m_clausula, "subleclausula", "bajaclausula"));
-    termsLayout->addWidget(m_stepper->field(tr("FICHA ANUAL"), m_ficha, "subeficha", "bajaficha"));
-    termsLayout->addWidget(m_years->field(tr("AÑOS")));
-    auto *checks = new QHBoxLayout;
-    checks->addWidget(m_freedom);
-    checks->addSpacing(20);
-    checks->addWidget(m_house);
-    checks->addStretch();
-    termsLayout->addLayout(checks);
+    auto *terms = new TermsBox(tr("NUEVO CONTRATO"), m_stepper);
+    m_clausula = terms->clausula();
+    m_ficha = terms->ficha();
+    m_years = terms->years();
     auto *rules = plainLabel(tr("Los años se suman a los que le quedan, hasta %1 en total. El jugador pide al menos "
                                 "%2 € más de ficha y no acepta una cláusula de más de vez y media la actual.")
                                  .arg(game::Contracts::kMostYears)
                                  .arg(game::Contracts::kWageRise));
     rules->setProperty("role", QStringLiteral("hint"));
     rules->setWordWrap(true);
-    termsLayout->addWidget(rules);
-    termsLayout->addStretch();
+    terms->addNote(rules);
 
     auto *body = new QHBoxLayout;
     body->setSpacing(24);

@@ -4,7 +4,6 @@
 
 #include <QWidget>
 
-class QCheckBox;
 class QLabel;
 class QPushButton;
 
@@ -56,8 +55,6 @@ private:
     MoneyBox *m_ficha;
     YearsBox *m_years;
     Stepper *m_stepper;
-    QCheckBox *m_freedom;
-    QCheckBox *m_house;
     QPushButton *m_renew;
     QPushButton *m_dismiss;
     QPushButton *m_list;

@@ -2,6 +2,7 @@
 
 #include "common/theme.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -214,6 +215,37 @@ void YearsBox::check(const QString &text)
         const QSignalBlocker quiet(m_bar);
         m_bar->setValue(years);
     }
+}
+
+TermsBox::TermsBox(const QString &title, Stepper *stepper, QWidget *lead, QWidget *parent)
+    : QGroupBox(title, parent), m_layout(new QVBoxLayout(this)), m_clausula(new MoneyBox("txtclausula")),
+      m_ficha(new MoneyBox("txtficha")), m_years(new YearsBox)
+{
+    auto *freedom = new QCheckBox(tr("Libertad por Descenso"));
+    freedom->setObjectName(QStringLiteral("Check1"));
+    auto *house = new QCheckBox(tr("Casa y Coche"));
+    house->setObjectName(QStringLiteral("Check2"));
+
+    m_layout->setContentsMargins(20, 20, 20, 16);
+    m_layout->setSpacing(12);
+    if (lead)
+        m_layout->addWidget(lead);
+    m_layout->addWidget(stepper->field(tr("CLAUSULA DE RESCISIÓN"), m_clausula, "subleclausula", "bajaclausula"));
+    m_layout->addWidget(stepper->field(tr("FICHA ANUAL"), m_ficha, "subeficha", "bajaficha"));
+    m_layout->addWidget(m_years->field(tr("AÑOS")));
+    auto *checks = new QHBoxLayout;
+    checks->addWidget(freedom);
+    checks->addSpacing(20);
+    checks->addWidget(house);
+    checks->addStretch();
+    m_layout->addLayout(checks);
+    m_layout->addStretch();
+}
+
+void TermsBox::addNote(QWidget *note)
+{
+    // Notes go above the closing stretch, so the terms stay together at the top of the box.
+    m_layout->insertWidget(m_layout->count() - 1, note);
 }
 
 } // namespace ui

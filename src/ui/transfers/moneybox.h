@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QObject>
 #include <QString>
@@ -7,6 +8,7 @@
 class QAbstractButton;
 class QScrollBar;
 class QTimer;
+class QVBoxLayout;
 
 namespace ui {
 
@@ -95,6 +97,32 @@ private:
     void check(const QString &text);
 
     QScrollBar *m_bar;
+};
+
+// The terms of a contract as the offer and contract screens ask for them, one under another:
+// the clause ("txtclausula") and the annual wage ("txtficha") with their step buttons, the
+// years, and two promises, "Libertad por Descenso" ("Check1") and "Casa y Coche" ("Check2").
+// The game shows the promises and never reads them: a ticked box makes the same offer as an
+// empty one. The offer puts its sum for the club above the clause, as `lead`.
+class TermsBox : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    TermsBox(const QString &title, Stepper *stepper, QWidget *lead = nullptr, QWidget *parent = nullptr);
+
+    MoneyBox *clausula() const { return m_clausula; }
+    MoneyBox *ficha() const { return m_ficha; }
+    YearsBox *years() const { return m_years; }
+
+    // A line below the promises, such as the rules a renewal must keep.
+    void addNote(QWidget *note);
+
+private:
+    QVBoxLayout *m_layout;
+    MoneyBox *m_clausula;
+    MoneyBox *m_ficha;
+    YearsBox *m_years;
 };
 
 } // namespace ui

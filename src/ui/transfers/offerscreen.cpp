@@ -6,7 +6,6 @@
 #include "moneybox.h"
 #include "transfers/offers.h"
 
-#include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -95,31 +94,12 @@ OfferScreen::OfferScreen(game::Context context, QWidget *parent) : QWidget(paren
 
     m_stepper = new Stepper(this);
     m_oferta = new MoneyBox("txtOferta");
-    m_clausula = new MoneyBox("txtclausula");
-    m_ficha = new MoneyBox("txtficha");
-    m_years = new YearsBox;
-    // Terms a player might be promised that the game shows and never reads: a ticked box
-    // makes the same offer as an empty one.
-    m_freedom = new QCheckBox(tr("Libertad por Descenso"));
-    m_freedom->setObjectName(QStringLiteral("Check1"));
-    m_house = new QCheckBox(tr("Casa y Coche"));
-    m_house->setObjectName(QStringLiteral("Check2"));
-
-    auto *terms = new QGroupBox(tr("LA OFERTA"));
-    auto *termsLayout = new QVBoxLayout(terms);
-    termsLayout->setContentsMargins(20, 20, 20, 16);
-    termsLayout->setSpacing(12);
-    termsLayout->addWidget(m_stepper->field(tr("OFERTA AL EQUIPO"), m_oferta, "subeoferta", "bajaoferta"));
-    termsLayout->addWidget(m_stepper->field(tr("CLAUSULA DE RESCISIÓN"), m_clausula, "subleclausula", "bajaclausula"));
-    termsLayout->addWidget(m_stepper->field(tr("FICHA ANUAL"), m_ficha, "subeficha", "bajaficha"));
-    termsLayout->addWidget(m_years->field(tr("AÑOS")));
-    auto *checks = new QHBoxLayout;
-    checks->addWidget(m_freedom);
-    checks->addSpacing(20);
-    checks->addWidget(m_house);
-    checks->addStretch();
-    termsLayout->addLayout(checks);
-    termsLayout->addStretch();
+    // The sum for the club comes first; the rest are the player's own terms.
+    auto *terms = new TermsBox(tr("LA OFERTA"), m_stepper,
+                               m_stepper->field(tr("OFERTA AL EQUIPO"), m_oferta, "subeoferta", "bajaoferta"));
+    m_clausula = terms->clausula();
+    m_ficha = terms->ficha();
+    m_years = terms->years();
 
     auto *body = new QHBoxLayout;
     body->setSpacing(24);

@@ -7,7 +7,6 @@
 
 #include <array>
 
-class QCheckBox;
 class QGridLayout;
 class QLabel;
 class QPushButton;
@@ -77,8 +76,6 @@ private:
     MoneyBox *m_ficha;
     YearsBox *m_years;
     Stepper *m_stepper;
-    QCheckBox *m_freedom;
-    QCheckBox *m_house;
     QPushButton *m_make;
 };
 
