@@ -9,7 +9,20 @@
 
 namespace game {
 
+static_assert(std::u16string_view(kPositions[5]) == u"Pivote", "the pivot is the one position no grid lists");
+
 namespace {
+
+// The four grids together are every listed player but the pivots: goalkeepers, wings (either
+// side), backs (either side) and centres. A player's position is always one of the seven names,
+// so leaving the pivot out by name picks the same players as the grids' likes, without a like
+// on every row of a market that, late in a long career, holds most of the league.
+constexpr const char *kOnSaleButOneClub = "from jugadores where venta = 1 and idequipo <> ? and Posicion <> ? ";
+
+QString pivot()
+{
+    return QString::fromUtf16(kPositions[5]);
+}
 
 // The columns every list reads, in Line's order.
 constexpr const char *kColumns = "select idjugador, Nombre, Apellidos, Edad, Posicion, Media, Dorsal, Nacionalidad,"
@@ -60,23 +73,6 @@ std::vector<Market::Line> Market::forSale(Group group)
     }
     return {};
 }
-
-static_assert(std::u16string_view(kPositions[5]) == u"Pivote", "the pivot is the one position no grid lists");
-
-namespace {
-
-// The four grids together are every listed player but the pivots: goalkeepers, wings (either
-// side), backs (either side) and centres. A player's position is always one of the seven names,
-// so leaving the pivot out by name picks the same players as the grids' likes, without a like
-// on every row of a market that, late in a long career, holds most of the league.
-constexpr const char *kOnSaleButOneClub = "from jugadores where venta = 1 and idequipo <> ? and Posicion <> ? ";
-
-QString pivot()
-{
-    return QString::fromUtf16(kPositions[5]);
-}
-
-} // namespace
 
 int Market::drawForSale(int exceptClub)
 {
