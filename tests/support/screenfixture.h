@@ -16,6 +16,10 @@
 #include <QTableView>
 #include <QTest>
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 // A screen test: the real navigator and widgets over a copy of the pristine database, with
 // scripted dialogs and no real browser.
 class ScreenTest : public StoreTest
@@ -101,6 +105,56 @@ protected:
         grid->scrollTo(index);
         QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(index).center());
         settle();
+    }
+
+    // The user's club.
+    int club() { return int(m_store->integer("select idequipo from datos_jugador")); }
+
+    // The ids a statement gives and the ids a grid shows (its first column), both sorted, to
+    // compare a list on screen with the store; the headers of the columns the grid shows.
+    std::vector<int> storeIds(const std::string &sql)
+    {
+        std::vector<int> ids;
+        game::GameStore::Query rows = m_store->query(sql);
+        while (rows.next())
+            ids.push_back(rows.integer(0));
+        std::sort(ids.begin(), ids.end());
+        return ids;
+    }
+
+    static std::vector<int> gridIds(QTableView *grid)
+    {
+        std::vector<int> ids;
+        for (int row = 0; row < grid->model()->rowCount(); ++row)
+            ids.push_back(grid->model()->index(row, 0).data().toInt());
+        std::sort(ids.begin(), ids.end());
+        return ids;
+    }
+
+    static QStringList shownHeaders(QTableView *grid)
+    {
+        QStringList headers;
+        for (int column = 0; column < grid->model()->columnCount(); ++column) {
+            if (!grid->isColumnHidden(column))
+                headers << grid->model()->headerData(column, Qt::Horizontal).toString();
+        }
+        return headers;
+    }
+
+    // The row of the grid that shows this player, or -1.
+    static int rowOf(QTableView *grid, int player)
+    {
+        for (int row = 0; row < grid->model()->rowCount(); ++row) {
+            if (grid->model()->index(row, 0).data().toInt() == player)
+                return row;
+        }
+        return -1;
+    }
+
+    // The text of a cell of a grid.
+    static QString cell(QTableView *grid, int row, int column)
+    {
+        return grid->model()->index(row, column).data().toString();
     }
 
     // Types into a box as the player would; text beyond ASCII goes in as one insertion.

@@ -85,52 +85,7 @@ protected:
         return player;
     }
 
-    int club() { return int(m_store->integer("select idequipo from datos_jugador")); }
     int week() { return int(m_store->integer("select jornada from datos_jugador")); }
-
-    std::vector<int> storeIds(const std::string &sql)
-    {
-        std::vector<int> ids;
-        game::GameStore::Query rows = m_store->query(sql);
-        while (rows.next())
-            ids.push_back(rows.integer(0));
-        std::sort(ids.begin(), ids.end());
-        return ids;
-    }
-
-    static std::vector<int> gridIds(QTableView *grid)
-    {
-        std::vector<int> ids;
-        for (int row = 0; row < grid->model()->rowCount(); ++row)
-            ids.push_back(grid->model()->index(row, 0).data().toInt());
-        std::sort(ids.begin(), ids.end());
-        return ids;
-    }
-
-    static QStringList shownHeaders(QTableView *grid)
-    {
-        QStringList headers;
-        for (int column = 0; column < grid->model()->columnCount(); ++column) {
-            if (!grid->isColumnHidden(column))
-                headers << grid->model()->headerData(column, Qt::Horizontal).toString();
-        }
-        return headers;
-    }
-
-    // The row of the grid that shows this player, or -1.
-    static int rowOf(QTableView *grid, int player)
-    {
-        for (int row = 0; row < grid->model()->rowCount(); ++row) {
-            if (grid->model()->index(row, 0).data().toInt() == player)
-                return row;
-        }
-        return -1;
-    }
-
-    static QString cell(QTableView *grid, int row, int column)
-    {
-        return grid->model()->index(row, column).data().toString();
-    }
 
 
     // Writes a sum in a box as the player does: what is there is selected and typed over,

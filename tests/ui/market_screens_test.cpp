@@ -95,40 +95,9 @@ protected:
         ASSERT_EQ(m_navigator->current()->objectName(), kSale);
     }
 
-    int club() { return int(m_store->integer("select idequipo from datos_jugador")); }
-
     void list(const char *where)
     {
         ASSERT_TRUE(m_store->run([&] { m_store->execute(std::string("update jugadores set venta = 1 where ") + where); }).ok());
-    }
-
-    std::vector<int> storeIds(const std::string &sql)
-    {
-        std::vector<int> ids;
-        game::GameStore::Query rows = m_store->query(sql);
-        while (rows.next())
-            ids.push_back(rows.integer(0));
-        std::sort(ids.begin(), ids.end());
-        return ids;
-    }
-
-    static std::vector<int> gridIds(QTableView *grid)
-    {
-        std::vector<int> ids;
-        for (int row = 0; row < grid->model()->rowCount(); ++row)
-            ids.push_back(grid->model()->index(row, 0).data().toInt());
-        std::sort(ids.begin(), ids.end());
-        return ids;
-    }
-
-    static QStringList shownHeaders(QTableView *grid)
-    {
-        QStringList headers;
-        for (int column = 0; column < grid->model()->columnCount(); ++column) {
-            if (!grid->isColumnHidden(column))
-                headers << grid->model()->headerData(column, Qt::Horizontal).toString();
-        }
-        return headers;
     }
 
     // Fills a box of the scout as the player does: what was there goes, the text is typed, and
@@ -143,11 +112,6 @@ protected:
         type(QString::fromLatin1(name), text);
         QFocusEvent leaving(QEvent::FocusOut, Qt::TabFocusReason);
         QApplication::sendEvent(box, &leaving);
-    }
-
-    static QString cell(QTableView *grid, int row, int column)
-    {
-        return grid->model()->index(row, column).data().toString();
     }
 
 

@@ -48,8 +48,6 @@ protected:
 
     ui::WeekPanel *panel() { return m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager")); }
     ui::MatchScreen *match() { return m_navigator->screen<ui::MatchScreen>(QStringLiteral("partido")); }
-    int club() { return int(m_store->integer("select idequipo from datos_jugador")); }
-
     // The week's clock as the store keeps it: the week, the ledger and the club's budget.
     QString clock()
     {

@@ -139,8 +139,6 @@ protected:
 
     ui::WeekPanel *panel() { return m_navigator->screen<ui::WeekPanel>(kPanel); }
     QWidget *stadium() { return m_navigator->screen(kStadium); }
-    int club() { return int(m_store->integer("select idequipo from datos_jugador")); }
-
     void openStadium()
     {
         ASSERT_EQ(m_navigator->current()->objectName(), kPanel);
