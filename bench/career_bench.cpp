@@ -3,7 +3,7 @@
 // seasons (a career that slows down as it ages shows here), and the peak memory.
 
 #include "benchsupport.h"
-#include "match/season.h"
+#include "sim/autoseason.h"
 #include "random.h"
 #include "store/gamestore.h"
 

@@ -4,7 +4,7 @@
 
 #include "benchsupport.h"
 #include "match/engine.h"
-#include "match/season.h"
+#include "sim/autoseason.h"
 #include "random.h"
 #include "store/gamestore.h"
 

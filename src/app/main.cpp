@@ -3,7 +3,7 @@
 #include "common/messageboxdialogs.h"
 #include "common/theme.h"
 #include "navigator.h"
-#include "session.h"
+#include "career/session.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,6 +1,5 @@
 #include "navigator.h"
 
-#include "career/career.h"
 #include "dialogs.h"
 
 #include <QDesktopServices>
@@ -19,15 +18,33 @@ const QString kPanel = QStringLiteral("Panel_Control_Manager");
 const QString kMatch = QStringLiteral("partido");
 const QString kVerdict = QStringLiteral("Finall");
 const QString kPlanner = QStringLiteral("Pretemporada");
+const QString kBroadcast = QStringLiteral("Tele");
 
 } // namespace
 
 Navigator::Navigator(game::Context context, QMainWindow &window)
     : m_context(context), m_window(window), m_stack(new QStackedWidget(&window)),
-      m_openUrl([](const QUrl &url) { QDesktopServices::openUrl(url); }), m_week(context)
+      m_openUrl([](const QUrl &url) { QDesktopServices::openUrl(url); }), m_career(context)
 {
     m_window.setCentralWidget(m_stack);
     registerScreens(*this);
+
+    // Each step of the career brings up its screen: a week opened shows its panel over
+    // nothing of the week before, a closed season its verdict (the panel belongs to the season
+    // that ended; the next one gets its own), a pre-season its planner.
+    connect(&m_career, &game::Career::weekOpened, this, [this] {
+        closeWeekScreens();
+        showPanel();
+    });
+    connect(&m_career, &game::Career::broadcastOffered, this, [this] { open(kBroadcast); });
+    connect(&m_career, &game::Career::verdictReady, this, [this] {
+        closeWeekScreens();
+        unload(kPanel);
+        if (!open(kVerdict))
+            verdictRead();
+    });
+    connect(&m_career, &game::Career::seasonClosed, this, [this] { close(kVerdict); });
+    connect(&m_career, &game::Career::planningStarted, this, [this] { open(kPlanner); });
 }
 
 Navigator::~Navigator()
@@ -153,45 +170,16 @@ void Navigator::showMenu()
     open(kMenu);
 }
 
-void Navigator::beginSeason()
+void Navigator::verdictRead()
 {
-    nextWeek();
-}
-
-void Navigator::nextWeek()
-{
-    // The only way to a new week: the last one's match is played, or the season begins. A
-    // week that cannot open leaves everything as it was, and the player has been told.
-    if (!m_week.open())
-        return;
-    closeWeekScreens();
-    if (m_week.seasonOver()) {
-        endSeason();
-        return;
-    }
-    showPanel();
-}
-
-void Navigator::endSeason()
-{
-    // The season is ranked and emptied; a failure leaves it as it was, and the panel stays
-    // for the player to try again.
-    if (!m_week.closeSeason()) {
-        showPanel();
-        return;
-    }
-    // The panel belongs to the season that ended; the next one gets its own.
-    unload(kPanel);
-    if (!open(kVerdict))
-        seasonClosed();
-}
-
-void Navigator::seasonClosed()
-{
-    close(kVerdict);
     // Every order still waiting is settled, with its messages, before the next pre-season.
-    m_week.settleOrders();
-    open(kPlanner);
+    m_career.settleOrders();
+}
+
+void Navigator::goOn()
+{
+    // A step of the career that failed (told to the player) is taken up again from the panel.
+    m_career.goOn();
 }
 
 void Navigator::showPanel()
@@ -205,23 +193,21 @@ void Navigator::playMatch()
     open(kMatch);
 }
 
-void Navigator::matchOver(int homeGoals, int awayGoals)
+void Navigator::matchOver()
 {
-    const bool recorded = m_week.recordResult(homeGoals, awayGoals);
+    // The match is recorded and the next week opens. When either failed the player has been
+    // told: the match can be played again, or the panel's "SEGUIR" takes the career on.
     close(kMatch);
-    if (recorded)
-        nextWeek();
-    else
-        showPanel(); // the player has been told; the match can be played again
+    if (!m_career.finishMatch())
+        showPanel();
 }
 
 void Navigator::leaveCareer()
 {
     // Leaving the career throws it away and closes every screen of it; a new career gets a
     // freshly opened panel.
-    if (game::Result restored = game::Career::discard(m_context); !restored)
+    if (game::Result restored = m_career.leave(); !restored)
         m_context.dialogs.tell(restored.message(), game::Dialogs::Icon::Exclamation);
-    m_week.close();
     for (const QString &name : m_loaded.keys())
         unload(name);
     showMenu();
@@ -230,7 +216,7 @@ void Navigator::leaveCareer()
 void Navigator::quitGame()
 {
     // Leaving the game throws the career away: the working file goes back to the original.
-    if (game::Result restored = game::Career::discard(m_context); !restored)
+    if (game::Result restored = m_career.leave(); !restored)
         m_context.dialogs.tell(restored.message(), game::Dialogs::Icon::Exclamation);
     emit finished();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "career/week.h"
+#include "career/career.h"
 #include "context.h"
 
 #include <QHash>
@@ -47,9 +47,10 @@ struct ScreenKind
     std::function<void(Navigator &, QWidget *, const QVariant &)> about = {};
 };
 
-// Opens and closes the screens of the game and leads the career from week to week. The
-// screens come from a table (see screens.cpp): adding one is one entry there, and the
-// navigator does not change.
+// Opens and closes the screens of the game, and shows the career as it goes: the career
+// (game::Career) says when a week opens, a verdict is ready or a pre-season is to be
+// planned, and the navigator brings up the screen for it. The screens come from a table (see
+// screens.cpp): adding one is one entry there, and the navigator does not change.
 //
 //   navigator.open(u"Calendario"_s);     // made and shown over the panel
 //   navigator.close(u"Calendario"_s);    // gone; the panel is back
@@ -80,24 +81,23 @@ public:
     QWidget *current() const;
 
     game::Context context() const { return m_context; }
-    game::Week &week() { return m_week; }
+    game::Career &career() { return m_career; }
     QMainWindow &window() const { return m_window; }
 
     // How a web page is opened; the system's browser unless a test says otherwise.
     void setUrlOpener(std::function<void(const QUrl &)> opener) { m_openUrl = std::move(opener); }
     void openUrl(const QUrl &url) const { m_openUrl(url); }
 
-    // The way of a career: the title, the menu, the first week of a season, each next week,
-    // the end of the week's match, the season's close, leaving the career, leaving the game.
+    // The way of a career: the title, the menu, the panel of the open week, the match, the
+    // end of the match, the verdict read, a step taken up again, leaving the career, leaving
+    // the game.
     void showSplash();
     void showMenu();
-    void beginSeason();
-    void nextWeek();
     void showPanel();
     void playMatch();
-    void matchOver(int homeGoals, int awayGoals);
-    // The verdict has been read: the orders are settled and the next pre-season is planned.
-    void seasonClosed();
+    void matchOver();
+    void verdictRead();
+    void goOn();
     void leaveCareer();
     void quitGame();
 
@@ -109,15 +109,13 @@ private:
     void unload(const QString &name);
     // Closes what a week leaves open before the next one opens.
     void closeWeekScreens();
-    // The week after the calendar's last: the season is closed and its verdict shown.
-    void endSeason();
     void showTopPage();
 
     game::Context m_context;
     QMainWindow &m_window;
     QStackedWidget *m_stack;
     std::function<void(const QUrl &)> m_openUrl;
-    game::Week m_week;
+    game::Career m_career;
     QHash<QString, ScreenKind> m_kinds;
     QHash<QString, QPointer<QWidget>> m_loaded;
     // The pages opened one over another, the one on show last.

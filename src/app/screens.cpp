@@ -108,11 +108,10 @@ void registerScreens(Navigator &nav)
     nav.add(QStringLiteral("Liga_Manager"),
             {Mode::Dialog, false, false,
              [](Navigator &navigator) {
-                 auto *screen = new ui::NewCareerScreen(navigator.context());
-                 QObject::connect(screen, &ui::NewCareerScreen::careerStarted, &navigator, [&navigator] {
-                     navigator.close(QStringLiteral("Liga_Manager"));
-                     navigator.open(QStringLiteral("Pretemporada"));
-                 });
+                 // The career's planner comes up as the career starts; this screen then goes.
+                 auto *screen = new ui::NewCareerScreen(navigator.career());
+                 QObject::connect(screen, &ui::NewCareerScreen::careerStarted, &navigator,
+                                  [&navigator] { navigator.close(QStringLiteral("Liga_Manager")); });
                  return dismissible(navigator, screen, QStringLiteral("Liga_Manager"));
              },
              {}});
@@ -141,8 +140,7 @@ void registerScreens(Navigator &nav)
     nav.add(QStringLiteral("Pretemporada"),
             {Mode::Page, false, false,
              [](Navigator &navigator) {
-                 auto *planner = new ui::PreseasonScreen(navigator.context());
-                 QObject::connect(planner, &ui::PreseasonScreen::seasonPlanned, &navigator, &Navigator::beginSeason);
+                 auto *planner = new ui::PreseasonScreen(navigator.career());
                  QObject::connect(planner, &ui::PreseasonScreen::backToMenu, &navigator, &Navigator::showMenu);
                  return planner;
              },
@@ -152,11 +150,11 @@ void registerScreens(Navigator &nav)
     nav.add(QStringLiteral("Panel_Control_Manager"),
             {Mode::Page, true, true,
              [](Navigator &navigator) {
-                 auto *panel = new ui::WeekPanel(navigator.week(),
+                 auto *panel = new ui::WeekPanel(navigator.career(),
                                                  [&navigator](const QString &screen) { return navigator.has(screen); });
                  QObject::connect(panel, &ui::WeekPanel::openRequested, &navigator,
                                   [&navigator](const QString &screen) { navigator.open(screen); });
-                 QObject::connect(panel, &ui::WeekPanel::nextWeekRequested, &navigator, &Navigator::nextWeek);
+                 QObject::connect(panel, &ui::WeekPanel::goOnRequested, &navigator, &Navigator::goOn);
                  QObject::connect(panel, &ui::WeekPanel::leaveRequested, &navigator, &Navigator::leaveCareer);
                  return panel;
              },
@@ -182,14 +180,15 @@ void registerScreens(Navigator &nav)
     nav.add(QStringLiteral("partido"),
             {Mode::Dialog, false, true,
              [](Navigator &navigator) -> QWidget * {
-                 // The match opens through the week, which settles its crowd once.
-                 const std::optional<game::Week::Kickoff> kickoff = navigator.week().kickOff();
-                 if (!kickoff)
+                 // The match kicks off through the career, which settles its crowd once and
+                 // plays it; the screen runs its clock and shows it.
+                 game::Career &career = navigator.career();
+                 game::MatchEngine *engine = career.kickOff();
+                 if (!engine)
                      return nullptr;
-                 auto *match = new ui::MatchScreen(navigator.context(), *navigator.week().fixture(), *kickoff);
-                 QObject::connect(match, &ui::MatchScreen::left, &navigator, [&navigator, match] {
-                     navigator.matchOver(match->engine().score(0), match->engine().score(1));
-                 });
+                 auto *match = new ui::MatchScreen(navigator.context(), *engine, *career.week().fixture(),
+                                              *career.week().gate());
+                 QObject::connect(match, &ui::MatchScreen::left, &navigator, &Navigator::matchOver);
                  return match;
              },
              {}});
@@ -198,7 +197,7 @@ void registerScreens(Navigator &nav)
     nav.add(QStringLiteral("Calendario"),
             {Mode::Page, false, false,
              [](Navigator &navigator) {
-                 return closing(navigator, new ui::CalendarScreen(navigator.context(), navigator.week().number()),
+                 return closing(navigator, new ui::CalendarScreen(navigator.context(), navigator.career().week().number()),
                                 QStringLiteral("Calendario"));
              },
              {}});
@@ -206,7 +205,7 @@ void registerScreens(Navigator &nav)
     nav.add(QStringLiteral("Caja"),
             {Mode::Page, false, false,
              [](Navigator &navigator) {
-                 return closing(navigator, new ui::LedgerScreen(navigator.context(), navigator.week().number()),
+                 return closing(navigator, new ui::LedgerScreen(navigator.context(), navigator.career().week().number()),
                                 QStringLiteral("Caja"));
              },
              {}});
@@ -215,7 +214,7 @@ void registerScreens(Navigator &nav)
     nav.add(QStringLiteral("estadios"),
             {Mode::Page, false, false,
              [](Navigator &navigator) {
-                 return closing(navigator, new ui::StadiumScreen(navigator.context(), navigator.week()),
+                 return closing(navigator, new ui::StadiumScreen(navigator.context(), navigator.career().week()),
                                 QStringLiteral("estadios"));
              },
              {}});
@@ -225,9 +224,9 @@ void registerScreens(Navigator &nav)
              [](Navigator &navigator) -> QWidget * {
                  // Only a week whose match television has bought shows it, and only until the
                  // player has acknowledged it.
-                 if (!navigator.week().broadcast())
+                 if (!navigator.career().week().broadcast())
                      return nullptr;
-                 auto *tele = new ui::BroadcastScreen(navigator.week());
+                 auto *tele = new ui::BroadcastScreen(navigator.career().week());
                  QObject::connect(tele, &QDialog::accepted, &navigator,
                                   [&navigator] { navigator.close(QStringLiteral("Tele")); });
                  return tele;
@@ -370,10 +369,10 @@ void registerScreens(Navigator &nav)
     nav.add(QStringLiteral("Finall"),
             {Mode::Dialog, false, false,
              [](Navigator &navigator) -> QWidget * {
-                 if (!navigator.week().verdict())
+                 if (!navigator.career().verdict())
                      return nullptr;
-                 auto *verdict = new ui::VerdictScreen(*navigator.week().verdict());
-                 QObject::connect(verdict, &QDialog::accepted, &navigator, &Navigator::seasonClosed);
+                 auto *verdict = new ui::VerdictScreen(*navigator.career().verdict());
+                 QObject::connect(verdict, &QDialog::accepted, &navigator, &Navigator::verdictRead);
                  return verdict;
              },
              {}});

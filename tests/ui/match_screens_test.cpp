@@ -86,7 +86,7 @@ TEST_F(MatchScreens, aMatchIsCalledUpPlayedChangedAndLeftForTheNextWeek)
 {
     reachFirstLeagueWeek();
     EXPECT_EQ(count("jugar"), 7);
-    const int matchId = m_navigator->week().fixture()->idpartido;
+    const int matchId = m_navigator->career().week().fixture()->idpartido;
 
     click(QStringLiteral("cmdSeguir"));
     ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Alinear"));
@@ -258,7 +258,7 @@ TEST_F(MatchScreens, aHomeMatchPlayedAgainAfterAFailedResultPaysItsGateOnce)
 {
     playFirstLeagueMatchToFullTime(QStringLiteral("IPortland")); // at home in the first round
     ASSERT_NE(match(), nullptr);
-    ASSERT_TRUE(m_navigator->week().fixture()->homeId == m_navigator->week().career().club);
+    ASSERT_TRUE(m_navigator->career().week().fixture()->homeId == m_navigator->career().week().career().club);
     ASSERT_GT(m_store->integer("select ingresos_Taquilla from caja where semana = 1"), 0);
     const QString ledger = dump("caja");
 
@@ -298,7 +298,7 @@ TEST_F(MatchScreens, anAwayFriendlyAbroadShowsTheWholeCrowdBox)
         click(QStringLiteral("cmdNoJugar"));
     click(QStringLiteral("cmdSeguir"));
     ASSERT_EQ(find<QLabel>(QStringLiteral("Tipo"))->text(), QStringLiteral("AMISTOSO"));
-    const int home = m_navigator->week().fixture()->homeId;
+    const int home = m_navigator->career().week().fixture()->homeId;
     ASSERT_EQ(m_store->integer("select count(*) from estadios where idequipo = ?", home), 0);
     runTheWeeksEvents();
     const QString ledger = dump("caja");

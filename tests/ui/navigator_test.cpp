@@ -4,6 +4,7 @@
 #include "career/weekpanel.h"
 #include "common/indexedlabel.h"
 #include "match/matchscreen.h"
+#include "match/callup.h"
 #include "screenfixture.h"
 
 #include <QCheckBox>
@@ -132,7 +133,7 @@ TEST_F(NavigatorScreens, comingBackToThePanelNeverOpensTheWeekAgain)
         EXPECT_EQ(clock(), before) << button;
     }
     EXPECT_EQ(dump("caja"), ledger);
-    EXPECT_EQ(m_navigator->week().number(), 1);
+    EXPECT_EQ(m_navigator->career().week().number(), 1);
     EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("1"));
 }
 
@@ -149,7 +150,7 @@ TEST_F(NavigatorScreens, aPanelButtonFollowsWhetherItsScreenExistsEvenWhenAddedL
     // A panel whose game gains a screen after the panel was made: the button lights up the
     // next time the week is shown, and asks for that screen.
     QSet<QString> existing{QStringLiteral("Caja")};
-    ui::WeekPanel panel(m_navigator->week(), [&existing](const QString &name) { return existing.contains(name); });
+    ui::WeekPanel panel(m_navigator->career(), [&existing](const QString &name) { return existing.contains(name); });
     panel.showWeek();
     auto *standings = panel.findChild<QPushButton *>(QStringLiteral("cmdClasificacion"));
     ASSERT_NE(standings, nullptr);
@@ -169,9 +170,9 @@ TEST_F(NavigatorScreens, aPanelButtonFollowsWhetherItsScreenExistsEvenWhenAddedL
 TEST_F(NavigatorScreens, theWindowTitlesNameTheManagerTheClubAndTheRealFixture)
 {
     reachFirstLeagueWeek();
-    const game::Fixture fixture = *m_navigator->week().fixture();
+    const game::Fixture fixture = *m_navigator->career().week().fixture();
     const QString title = m_window->windowTitle();
-    for (const QString &piece : {QStringLiteral("Chema Ruiz"), m_navigator->week().career().clubName, fixture.homeName,
+    for (const QString &piece : {QStringLiteral("Chema Ruiz"), m_navigator->career().week().career().clubName, fixture.homeName,
                                 fixture.awayName, QStringLiteral("LIGA"), QStringLiteral("Jornada 1")})
         EXPECT_TRUE(!piece.isEmpty() && title.contains(piece)) << title.toStdString() << " lacks " << piece.toStdString();
     EXPECT_TRUE(title.contains(game::shownDate(fixture.date))) << title.toStdString();
@@ -268,7 +269,7 @@ TEST_F(NavigatorScreens, aWorkOrderedInTheWindowEndsWeeksLaterAndTheMoneyReaches
     const QString finished = QStringLiteral("Las Obras de La mejora de las LAVABOS Han Terminado");
     bool pricedAHomeMatch = false;
     for (int week = 1; week <= 3; ++week) {
-        const auto &fixture = m_navigator->week().fixture();
+        const auto &fixture = m_navigator->career().week().fixture();
         ASSERT_TRUE(fixture.has_value());
         const bool home = fixture->homeId == club();
         if (home && !pricedAHomeMatch) {
@@ -421,7 +422,15 @@ TEST_F(NavigatorScreens, theLastRoundLeadsToTheVerdictAndTheNextPreseason)
     reachFirstLeagueWeek();
     // The season is played up to its last week.
     ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set jornada = 29"); }).ok());
-    m_navigator->nextWeek();
+    game::CallUp(*m_context).chooseBest();
+    game::MatchEngine *played = m_navigator->career().kickOff();
+    ASSERT_NE(played, nullptr);
+    for (int half = 0; half < 2; ++half) {
+        played->start();
+        while (played->running())
+            played->tick();
+    }
+    m_navigator->matchOver();
     settle();
     panel()->runWeekEvents();
     settle();
@@ -508,7 +517,7 @@ TEST_F(NavigatorScreens, theMatchScreenFitsTheWindowWhateverTheNames)
     ASSERT_EQ(m_store->integer("select min(length(Nombre) + length(Apellidos)) from jugadores where idequipo = ?", user), 80);
     declineFriendlies();
     ASSERT_FALSE(HasFatalFailure());
-    const game::Fixture fixture = *m_navigator->week().fixture();
+    const game::Fixture fixture = *m_navigator->career().week().fixture();
     const QString rival = fixture.homeId == user ? fixture.awayName : fixture.homeName;
     ASSERT_GT(rival.size(), 80) << rival.toStdString();
 

@@ -513,7 +513,7 @@ TEST_F(StadiumScreens, orderedWorksAreWrittenAndShowUnderWayAtTheNextVisit)
 TEST_F(StadiumScreens, matchDayDoesNothingInAWeekPlayedAway)
 {
     reachAwayLeagueWeek();
-    ASSERT_FALSE(m_navigator->week().career().isUserClub(m_navigator->week().fixture()->homeName));
+    ASSERT_FALSE(m_navigator->career().week().career().isUserClub(m_navigator->career().week().fixture()->homeName));
     openStadium();
     click(QStringLiteral("cmdPartido"));
     expectOnlyShown({"Obras", "Remodelar", "Entradas"}, "Obras", QStringLiteral("away, from OBRAS"));
@@ -528,7 +528,7 @@ TEST_F(StadiumScreens, matchDayDoesNothingInAWeekPlayedAway)
 TEST_F(StadiumScreens, matchDayPricesStepWithinTheirBoundsAndAreWrittenAtEachPress)
 {
     reachHomeFriendlyWeek();
-    const game::Week &week = m_navigator->week();
+    const game::Week &week = m_navigator->career().week();
     ASSERT_TRUE(week.career().isUserClub(week.fixture()->homeName));
     setPrice(1, 25);
     setPrice(2, 1700);
@@ -601,7 +601,7 @@ TEST_F(StadiumScreens, aBoughtMatchOpensTeleWhichOnlyItsOkClosesAndPaysOnce)
         channels << m_store->text("select NombreTV from televisiones where idTelevision = ?", id);
     const QString channel = tele->findChild<QLabel *>(QStringLiteral("lblTV"))->text();
     EXPECT_TRUE(channels.contains(channel)) << channel.toStdString();
-    EXPECT_EQ(channel, m_navigator->week().broadcast().value_or(QString()));
+    EXPECT_EQ(channel, m_navigator->career().week().broadcast().value_or(QString()));
     EXPECT_EQ(tele->findChild<QLabel *>(QStringLiteral("Label1"))->text(),
               QStringLiteral("La Televisión ha comprado los derechos de retransmisión del partido que vas a disputar."));
     EXPECT_EQ(tele->findChild<QLabel *>(QStringLiteral("Label2"))->text(),
@@ -634,7 +634,7 @@ TEST_F(StadiumScreens, aBoughtMatchOpensTeleWhichOnlyItsOkClosesAndPaysOnce)
     EXPECT_EQ(televisionIncome(), 450000);
     EXPECT_EQ(m_store->integer("select caja from caja where semana = 1"), cash + 450000);
     EXPECT_EQ(m_store->integer("select ingresos from caja where semana = 1"), income + 450000);
-    EXPECT_FALSE(m_navigator->week().broadcast().has_value());
+    EXPECT_FALSE(m_navigator->career().week().broadcast().has_value());
 
     // The week's events do not run twice, and the offer does not come back.
     panel()->runWeekEvents();
@@ -649,7 +649,7 @@ TEST_F(StadiumScreens, aMatchNotBoughtBringsOnlyTheLoadingMessage)
 {
     reachAwayLeagueWeek();
     EXPECT_EQ(m_dialogs.texts().count(kLoading), 1);
-    EXPECT_FALSE(m_navigator->week().broadcast().has_value());
+    EXPECT_FALSE(m_navigator->career().week().broadcast().has_value());
     EXPECT_EQ(m_navigator->screen(QStringLiteral("Tele")), nullptr);
     EXPECT_EQ(m_navigator->open(QStringLiteral("Tele")), nullptr);
     EXPECT_EQ(televisionIncome(), 0);
@@ -660,8 +660,8 @@ TEST_F(StadiumScreens, aMatchNotBoughtBringsOnlyTheLoadingMessage)
 TEST_F(StadiumScreens, theOfferStillComesWhenTheWeeksEventsRanBeforeThePanelsTurn)
 {
     reachForeignFriendlyWeek(false);
-    m_navigator->week().runEvents();
-    ASSERT_TRUE(m_navigator->week().broadcast().has_value());
+    m_navigator->career().week().runEvents();
+    ASSERT_TRUE(m_navigator->career().week().broadcast().has_value());
 
     panel()->runWeekEvents();
     settle();

@@ -12,7 +12,7 @@
 // DIR/balonmano.mdb is restored from the pristine copy first and left there for inspection.
 
 #include "dialogs.h"
-#include "match/season.h"
+#include "sim/autoseason.h"
 #include "random.h"
 #include "stadium/ledger.h"
 #include "store/gamestore.h"
@@ -122,7 +122,7 @@ int main(int argc, char *argv[])
         if (!season.failure().isEmpty())
             return fail(season.failure());
         if (seasonCount == 1)
-            break; // a single season is left as it ended, for inspection
+            break; // a single season is left at its verdict, its orders still waiting, for inspection
         game::AutoSeason::SeasonSummary summary;
         if (!season.closeSeason(&summary))
             return fail(season.failure());

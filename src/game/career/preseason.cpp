@@ -1,7 +1,7 @@
 #include "preseason.h"
 
-#include "career/career.h"
-#include "career/leagueclubs.h"
+#include "league/careerrow.h"
+#include "league/leagueclubs.h"
 #include "dialogs.h"
 #include "random.h"
 #include "store/gamestore.h"
@@ -54,7 +54,7 @@ void Preseason::begin()
     m_dealt = 0;
     m_slots = {};
     const Result result = store.run([&] {
-        const CareerRow career = Career::read(store);
+        const CareerRow career = CareerRow::read(store);
         m_manager = career.manager();
         m_club = career.club;
         m_clubName = career.clubName;

@@ -1,6 +1,6 @@
 #include "seasonclose.h"
 
-#include "career/career.h"
+#include "league/careerrow.h"
 #include "dialogs.h"
 #include "stadium/works.h"
 #include "store/gamestore.h"
@@ -13,7 +13,9 @@ namespace game {
 std::optional<SeasonClose::Verdict> SeasonClose::close()
 {
     GameStore &store = m_context.store;
+    Verdict line;
     const Result closed = store.run([&] {
+        line = verdict(); // the user's line, before the table is emptied
         // The ranking: points, then fewest goals against, then the club's id for a stable
         // order. The champion takes 16 and the last club 1.
         std::vector<int> ranking;
@@ -38,7 +40,14 @@ std::optional<SeasonClose::Verdict> SeasonClose::close()
         m_context.dialogs.tell(closed.message(), Dialogs::Icon::Exclamation);
         return std::nullopt;
     }
-    return verdict();
+    Verdict ranked = verdict();
+    ranked.won = line.won;
+    ranked.drawn = line.drawn;
+    ranked.lost = line.lost;
+    ranked.goalsFor = line.goalsFor;
+    ranked.goalsAgainst = line.goalsAgainst;
+    ranked.points = line.points;
+    return ranked;
 }
 
 SeasonClose::Verdict SeasonClose::verdict()
@@ -54,8 +63,19 @@ SeasonClose::Verdict SeasonClose::verdict()
         verdict.championName = nameOf(verdict.champion);
         verdict.last = nameOf(clubAt(1));
         verdict.secondLast = nameOf(clubAt(2));
-        verdict.userPlace = int(store.integer("select puesto_anterior from asobal where teams = ?",
-                                              Career::read(store).club));
+        const int club = userClub(store);
+        verdict.userPlace = int(store.integer("select puesto_anterior from asobal where teams = ?", club));
+        GameStore::Query line = store.query("select \"Partidos_ Ganados\", Partidos_Empatados, Partidos_Perdidos,"
+                                            " Goles_Favor, Goles_Contra, Puntos from asobal where teams = ?",
+                                            club);
+        if (line.next()) {
+            verdict.won = line.integer(0);
+            verdict.drawn = line.integer(1);
+            verdict.lost = line.integer(2);
+            verdict.goalsFor = line.integer(3);
+            verdict.goalsAgainst = line.integer(4);
+            verdict.points = line.integer(5);
+        }
     });
     return verdict;
 }

@@ -28,6 +28,13 @@ public:
         QString last;        // place 1: "Desciende:" and "Compra Plaza:"
         QString secondLast;  // place 2
         int userPlace = 0;   // as stored: 16 for the champion, 1 for the last
+        // The user's line of the final table, read before the table is emptied.
+        int won = 0;
+        int drawn = 0;
+        int lost = 0;
+        int goalsFor = 0;
+        int goalsAgainst = 0;
+        int points = 0;
     };
 
     explicit SeasonClose(Context context) : m_context(context) {}
@@ -36,7 +43,7 @@ public:
     // store failed (the player has been told and the season stands as it was).
     std::optional<Verdict> close();
 
-    // The verdict as the places stand.
+    // The verdict as the places stand (the user's line as the table holds it now).
     Verdict verdict();
 
     // Every order still waiting is settled, with its messages, and the pre-season is emptied

@@ -8,14 +8,17 @@
 #include "stadium/works.h"
 #include "transfers/bids.h"
 #include "transfers/offers.h"
+#include "transfers/rivalsquad.h"
 #include "store/gamestore.h"
 
 namespace game {
 
-Week::Week(Context context) : Week(context, WeekEvents::standard(context))
+Week::Week(Context context) : m_context(context)
 {
     // The offers, the stadium, the bids and the television report to this week: what they
     // brought, and the channel waiting for the player's OK.
+    m_events.set(WeekEvents::Step::RivalSquad,
+                 [this](const std::optional<Fixture> &fixture) { RivalSquad(m_context).prepare(fixture); });
     m_events.set(WeekEvents::Step::Offers, [this](const std::optional<Fixture> &) {
         const Offers::Settled settled = Offers(m_context).settleDue();
         m_news.signings = settled.signings;
@@ -40,7 +43,7 @@ bool Week::open()
     bool seasonOver = false;
     const Result result = store.run([&] {
         store.execute("update datos_jugador set jornada = jornada + 1");
-        career = Career::read(store);
+        career = CareerRow::read(store);
         // A season with k friendlies ends when week k + 31 opens, a week the calendar does not
         // have. An empty calendar has not ended.
         const qint64 lastWeek = store.integer("select max(semana) from calendario");
@@ -76,7 +79,6 @@ void Week::close()
     m_played = false;
     m_broadcast.reset();
     m_news = {};
-    m_verdict.reset();
 }
 
 void Week::runEvents()
@@ -115,23 +117,6 @@ bool Week::recordResult(int homeGoals, int awayGoals)
         return false;
     m_played = true;
     return true;
-}
-
-std::optional<SeasonClose::Verdict> Week::closeSeason()
-{
-    if (!m_seasonOver || m_verdict)
-        return m_verdict;
-    m_verdict = SeasonClose(m_context).close();
-    return m_verdict;
-}
-
-int Week::settleOrders()
-{
-    if (!m_verdict)
-        return 0;
-    const int settled = SeasonClose(m_context).settleQueue();
-    close();
-    return settled;
 }
 
 bool Week::acceptBroadcast()

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "career/career.h"
-#include "career/fixture.h"
-#include "career/seasonclose.h"
 #include "career/weekevents.h"
 #include "context.h"
+#include "league/careerrow.h"
+#include "league/fixture.h"
 #include "match/engine.h"
 #include "match/gate.h"
 
@@ -12,12 +11,11 @@
 
 namespace game {
 
-// One week of the career, from its opening to the result of its match. The week is the
-// game's only clock: it opens (the number moves on, the end of the season is tested, wages
-// and staff are paid, the ledger row opens, last week's rival line-up goes), its events run
-// once, its match kicks off with the crowd settled once, and its result is recorded. Only
-// then can the next week open. The panel, the match screen and the headless season all go
-// through this one object, so the window and the simulator live the same week.
+// One week of the career, from its opening to the result of its match: it opens (the number
+// moves on, the end of the season is tested, wages and staff are paid, the ledger row opens,
+// last week's rival line-up goes), its events run once, its match kicks off with the crowd
+// settled once, and its result is recorded. The career (game::Career) leads it through these
+// steps in this order, in the window and headless alike; the screens read it.
 //
 // Every step that writes is one transaction: when it fails it leaves nothing behind, the
 // player is told in Spanish, and the week stays where it was.
@@ -41,8 +39,8 @@ public:
         Gate::Report gate;
     };
 
-    // The week of the game: the standard events, with the stadium and the television
-    // reporting back to this week.
+    // The week of the game with its five events, the offers, the stadium, the bids and the
+    // television reporting back to this week.
     explicit Week(Context context);
     // A week with the given events as they are (tests, benchmarks).
     Week(Context context, WeekEvents events);
@@ -90,14 +88,8 @@ public:
     // broadcast stays, to be acknowledged again).
     bool acceptBroadcast();
 
-    // The season is over (seasonOver()): it is ranked and emptied, once, and its verdict
-    // kept for the screens. Nothing when the store failed: the player has been told and the
-    // season stands as it was, to be closed again.
-    std::optional<SeasonClose::Verdict> closeSeason();
-    const std::optional<SeasonClose::Verdict> &verdict() const { return m_verdict; }
-    // After the verdict: every order still waiting is settled, and no week is open until the
-    // next season's planner has made its calendar. Returns the orders settled.
-    int settleOrders();
+    // The crowd of the week's match once it has kicked off.
+    const std::optional<Gate::Report> &gate() const { return m_gate; }
 
     // What the week's events brought: works that ended, offers answered, a player sold.
     struct News
@@ -122,7 +114,6 @@ private:
     bool m_played = false;
     std::optional<QString> m_broadcast;
     News m_news;
-    std::optional<SeasonClose::Verdict> m_verdict;
 };
 
 } // namespace game

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "career/fixture.h"
-#include "context.h"
+#include "league/fixture.h"
 
 #include <array>
 #include <functional>
@@ -20,9 +19,6 @@ public:
     static constexpr std::size_t kSteps = 5;
 
     using Routine = std::function<void(const std::optional<Fixture> &)>;
-
-    // The week's events of the game, as the panel and the headless simulator run them.
-    static WeekEvents standard(Context context);
 
     void set(Step step, Routine routine) { m_routines[static_cast<std::size_t>(step)] = std::move(routine); }
 

@@ -1,7 +1,7 @@
 #include "callup.h"
 
-#include "career/leagueclubs.h"
-#include "career/career.h"
+#include "league/leagueclubs.h"
+#include "league/careerrow.h"
 #include "dialogs.h"
 #include "store/gamestore.h"
 
@@ -35,7 +35,7 @@ std::vector<CallUp::Player> CallUp::squad()
         GameStore::Query rows = m_context.store.query(
             "select idjugador, Nombre, Apellidos, Posicion, Media, Dorsal, Lesiones from jugadores"
             " where idequipo = ? order by Posicion, idjugador",
-            Career::club(m_context.store));
+            userClub(m_context.store));
         while (rows.next()) {
             players.push_back({rows.integer(0), rows.text(1), rows.text(2), rows.text(3), rows.integer(4),
                                rows.integer(5), rows.integer(6)});
@@ -67,7 +67,7 @@ bool CallUp::place(int placeIndex, int playerId)
     GameStore &store = m_context.store;
     bool placed = false;
     const Result result = store.run([&] {
-        const int club = Career::club(store);
+        const int club = userClub(store);
         GameStore::Query player = store.query(
             "select Nombre, Apellidos, Media, Posicion from jugadores where idjugador = ? and idequipo = ?", playerId, club);
         if (!player.next())
@@ -113,7 +113,7 @@ void CallUp::chooseBest()
     m_context.store.attempt([&] {
         GameStore::Query rows = m_context.store.query("select idjugador, Posicion from jugadores where idequipo = ?"
                                                       " order by Media desc, Posicion, idjugador",
-                                                      Career::club(m_context.store));
+                                                      userClub(m_context.store));
         while (rows.next())
             players.push_back({rows.integer(0), rows.text(1)});
     });

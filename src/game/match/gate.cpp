@@ -1,6 +1,6 @@
 #include "gate.h"
 
-#include "career/career.h"
+#include "league/careerrow.h"
 #include "dialogs.h"
 #include "money.h"
 #include "random.h"
@@ -8,7 +8,6 @@
 #include "stadium/ledger.h"
 #include "store/gamestore.h"
 
-#include <cstdlib>
 #include <optional>
 
 namespace game {
@@ -19,17 +18,6 @@ namespace {
 constexpr int kLeastCrowd = 1500;
 // At least a third of the hoardings always sell.
 constexpr int kLeastHoardings = 10;
-
-std::optional<int> firstInteger(GameStore &store, const std::string &sql, int key)
-{
-    std::optional<int> value;
-    store.attempt([&] {
-        GameStore::Query query = store.query(sql, key);
-        if (query.next())
-            value = query.integer(0);
-    });
-    return value;
-}
 
 // Uniform from 1500 to the capacity: a draw below 1500 is thrown away and drawn again. A
 // hall that holds fewer than 1500 fills up without a draw.
@@ -61,27 +49,13 @@ int percentOf(qint64 part, qint64 whole)
 
 } // namespace
 
-bool isBigMatch(GameStore &store, int homeClub, int awayClub)
-{
-    const char *classOf = "select categoria from equipos where idequipo = ?";
-    const std::optional<int> homeClass = firstInteger(store, classOf, homeClub);
-    const std::optional<int> awayClass = firstInteger(store, classOf, awayClub);
-    if (!homeClass || !awayClass || *homeClass == *awayClass)
-        return true;
-
-    const char *placeOf = "select puesto_actual from asobal where teams = ?";
-    const std::optional<int> homePlace = firstInteger(store, placeOf, homeClub);
-    const std::optional<int> awayPlace = firstInteger(store, placeOf, awayClub);
-    return !homePlace || !awayPlace || std::abs(*homePlace - *awayPlace) == 1;
-}
-
 Gate::Report Gate::draw(const Fixture &fixture)
 {
     GameStore &store = m_context.store;
     Report report;
 
     // Each read that fails is passed over and leaves its figure at nothing.
-    const CareerRow career = Career::current(m_context);
+    const CareerRow career = CareerRow::current(m_context);
     store.attempt([&] {
         GameStore::Query stadium = store.query("select Nombre, min_gradas from estadios where idequipo = ?",
                                                fixture.homeId);
@@ -123,7 +97,7 @@ bool Gate::post(const Report &report)
         return true;
     GameStore &store = m_context.store;
     const Result posted = store.run([&] {
-        const CareerRow career = Career::read(store);
+        const CareerRow career = CareerRow::read(store);
         Ledger ledger(store);
         ledger.postGateAndBoards(career.week, report.gateTakings, report.hoardingsTakings);
         // The cafeterias take two euros a head.

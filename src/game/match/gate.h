@@ -1,19 +1,11 @@
 #pragma once
 
-#include "career/fixture.h"
+#include "league/fixture.h"
 #include "context.h"
 
 #include <QString>
 
 namespace game {
-
-class GameStore;
-
-// A big match: both clubs of the same class, or next to each other in the league table (one
-// place apart; two clubs on the same place are not neighbours). A club with no class or no
-// place, such as a club from abroad in a friendly, cannot be compared, and that counts as a
-// big match too. A big match fills the house, and it is the match television buys.
-bool isBigMatch(GameStore &store, int homeClub, int awayClub);
 
 // The crowd of a match and what it pays, settled once as the match screen opens, before
 // play. A big match (clubs of the same class, or next to each other in the table) fills the

@@ -1,6 +1,6 @@
 #include "matchday.h"
 
-#include "career/career.h"
+#include "league/careerrow.h"
 #include "match/tactics.h"
 #include "store/gamestore.h"
 
@@ -14,7 +14,7 @@ MatchEngine::Setup MatchDay::setup(const Fixture &fixture)
     setup.awayName = fixture.awayName;
     setup.system = storedDefence();
     m_context.store.attempt([&] {
-        const CareerRow career = Career::read(store);
+        const CareerRow career = CareerRow::read(store);
         setup.userClubName = career.clubName;
         // The user is at home when the home club's name is his, capitals or not.
         setup.userAtHome = career.isUserClub(fixture.homeName);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "career/fixture.h"
+#include "league/fixture.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 #include "roundresults.h"
 
-#include "career/career.h"
+#include "league/careerrow.h"
 #include "store/gamestore.h"
 
 namespace game {
@@ -9,7 +9,7 @@ int RoundResults::currentRound()
 {
     int round = kFirstRound;
     m_context.store.attempt([&] {
-        const int week = Career::read(m_context.store).week;
+        const int week = CareerRow::read(m_context.store).week;
         const int friendlies = int(m_context.store.integer("select count(*) from pretemporada"));
         round = week - friendlies;
     });
@@ -20,7 +20,7 @@ std::vector<RoundResults::Match> RoundResults::round(int round)
 {
     std::vector<Match> matches;
     m_context.store.attempt([&] {
-        const CareerRow career = Career::read(m_context.store);
+        const CareerRow career = CareerRow::read(m_context.store);
         GameStore::Query query = m_context.store.query(
             "select coalesce(eh.NombreEquipo, ''), coalesce(ea.NombreEquipo, ''), f.goles_equipo_local,"
             " f.goles_equipo_visitante, coalesce(h.teams, 0), coalesce(a.teams, 0) from liga_asobal f"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "career/career.h"
-#include "career/fixture.h"
+#include "league/careerrow.h"
+#include "league/fixture.h"
 #include "context.h"
 
 #include <optional>

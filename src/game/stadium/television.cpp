@@ -1,7 +1,6 @@
 #include "television.h"
 
 #include "dialogs.h"
-#include "match/gate.h"
 #include "random.h"
 #include "stadium/ledger.h"
 #include "store/gamestore.h"

@@ -1,6 +1,6 @@
 #include "works.h"
 
-#include "career/career.h"
+#include "league/careerrow.h"
 #include "dialogs.h"
 #include "stadium/ledger.h"
 #include "store/gamestore.h"
@@ -218,7 +218,7 @@ std::optional<Works::Stadium> Works::stadium()
         GameStore::Query row = store.query(
             "select Nombre, min_gradas, parking, focos, marcadores, calefaccion, accesos, enfermeria, tienda, lavabos,"
             " cafeteria from estadios where idequipo = ?",
-            Career::club(store));
+            userClub(store));
         if (!row.next())
             return;
         Stadium read;
@@ -243,7 +243,7 @@ std::vector<Works::UnderWay> Works::underWay()
     GameStore &store = m_context.store;
     std::vector<UnderWay> works;
     store.attempt([&] {
-        const int week = Career::read(store).week;
+        const int week = CareerRow::read(store).week;
         for (const PendingRow &row : pendingRows(store)) {
             const std::optional<OrderText> order = parseOrder(row.observaciones);
             // An unknown item fills no line of the table.
@@ -340,7 +340,7 @@ int Works::order(const QStringList &tickedBoxes)
     int placed = 0;
     const Result written = store.run([&] {
         placed = 0;
-        const CareerRow career = Career::read(store);
+        const CareerRow career = CareerRow::read(store);
         for (const Order &order : kCatalogue) {
             if (!tickedBoxes.contains(QLatin1String(order.box)))
                 continue;
@@ -379,7 +379,7 @@ int Works::runWeek()
     int finished = 0;
     const Result walked = store.run([&] {
         finished = 0;
-        const CareerRow career = Career::read(store);
+        const CareerRow career = CareerRow::read(store);
         Ledger ledger(store);
         for (const PendingRow &row : pendingRows(store)) {
             const std::optional<OrderText> order = parseOrder(row.observaciones);
@@ -415,7 +415,7 @@ int Works::finishAll()
     int finished = 0;
     const Result closed = store.run([&] {
         finished = 0;
-        const CareerRow career = Career::read(store);
+        const CareerRow career = CareerRow::read(store);
         for (const PendingRow &row : pendingRows(store)) {
             const std::optional<OrderText> order = parseOrder(row.observaciones);
             if (!order)

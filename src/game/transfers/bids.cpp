@@ -1,6 +1,6 @@
 #include "bids.h"
 
-#include "career/career.h"
+#include "league/careerrow.h"
 #include "dialogs.h"
 #include "random.h"
 #include "stadium/ledger.h"
@@ -17,7 +17,7 @@ Bids::Outcome Bids::run()
     Random &chance = m_context.random;
     Outcome outcome = Outcome::NoBid;
     const Result done = store.run([&] {
-        const CareerRow career = Career::read(store);
+        const CareerRow career = CareerRow::read(store);
         // The club's listed players are read once; the draws then look among them. They are
         // found through the club's own players, a few dozen, not through the whole market.
         QSet<int> listed;

@@ -1,7 +1,7 @@
 #include "contracts.h"
 
-#include "career/career.h"
-#include "career/leagueclubs.h"
+#include "league/careerrow.h"
+#include "league/leagueclubs.h"
 #include "dialogs.h"
 #include "stadium/ledger.h"
 #include "store/gamestore.h"
@@ -65,7 +65,7 @@ Contracts::Dismissal Contracts::dismiss(int player)
         return Dismissal::Kept;
     Dismissal outcome = Dismissal::Kept;
     const Result done = store.run([&] {
-        const CareerRow career = Career::read(store);
+        const CareerRow career = CareerRow::read(store);
         if (store.integer("select count(*) from jugadores where idequipo = ?", career.club) < kSmallestSquadToDismiss) {
             // The board's words name fourteen; the limit is twelve.
             dialogs.tell(QStringLiteral("La Directiva No Acepta Más Despidos de Jugadores, ya que el Equipo Solo Cuenta "

@@ -1,7 +1,7 @@
 #include "market.h"
 
-#include "career/career.h"
-#include "career/leagueclubs.h"
+#include "league/careerrow.h"
+#include "league/leagueclubs.h"
 #include "random.h"
 #include "store/gamestore.h"
 
@@ -115,7 +115,7 @@ int Market::idForSale(int exceptClub, int nth)
 std::vector<Market::Line> Market::squad(Group group)
 {
     GameStore &store = m_context.store;
-    const int club = Career::current(m_context).club;
+    const int club = CareerRow::current(m_context).club;
     const char *positions[] = {"Portero", "Extremo%", "Lateral%", "Central"};
     return linesOf(store, "where Posicion like ? and idequipo = ? order by idjugador",
                    positions[static_cast<int>(group)], club);
@@ -126,7 +126,7 @@ QStringList Market::clubsOf(int countryCode)
     GameStore &store = m_context.store;
     QStringList clubs;
     store.attempt([&] {
-        const int userClub = Career::current(m_context).club;
+        const int userClub = CareerRow::current(m_context).club;
         GameStore::Query rows = countryCode == 0
             ? store.query("select NombreEquipo from equipos order by idequipo")
             : store.query("select NombreEquipo from equipos where codpais = ? and (codpais <> 1 or idequipo <> ?)"

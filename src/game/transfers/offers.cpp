@@ -1,6 +1,6 @@
 #include "offers.h"
 
-#include "career/career.h"
+#include "league/careerrow.h"
 #include "dialogs.h"
 #include "stadium/ledger.h"
 #include "store/gamestore.h"
@@ -99,7 +99,7 @@ bool Offers::make(int player, const Terms &terms)
 {
     GameStore &store = m_context.store;
     const Result written = store.run([&] {
-        const CareerRow career = Career::read(store);
+        const CareerRow career = CareerRow::read(store);
         // The shirt is fixed now: the next number after the highest of the squad.
         const int shirt = int(store.integer("select max(Dorsal) from jugadores where idequipo = ?", career.club)) + 1;
         store.execute("insert into selects (\"select\", jornada, oferta, clausula, ficha, jugador, observaciones, pago)"
@@ -135,7 +135,7 @@ Offers::Settled Offers::settle(bool seasonClose)
         int player;
     };
     const Result done = store.run([&] {
-        const CareerRow career = Career::read(store);
+        const CareerRow career = CareerRow::read(store);
         // Read first, so that no read of selects is open while its rows go. During the season
         // the offers made three weeks ago are due; at its close every offer is, however young.
         std::vector<Due> due;

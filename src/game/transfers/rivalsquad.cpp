@@ -1,7 +1,7 @@
 #include "rivalsquad.h"
 
-#include "career/career.h"
-#include "career/leagueclubs.h"
+#include "league/careerrow.h"
+#include "league/leagueclubs.h"
 #include "dialogs.h"
 #include "random.h"
 #include "store/gamestore.h"
@@ -113,7 +113,7 @@ void RivalSquad::prepare(const std::optional<Fixture> &fixture)
     GameStore &store = m_context.store;
     const int rival = fixture->rivalId;
     const Result written = store.run([&] {
-        const int userClub = Career::club(store);
+        const int userClub = game::userClub(store);
         store.execute("delete from jugar where idequipo = ?", userClub);
 
         for (int plaza = 1; plaza <= static_cast<int>(kPositions.size()); ++plaza) {

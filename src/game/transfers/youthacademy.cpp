@@ -1,6 +1,6 @@
 #include "youthacademy.h"
 
-#include "career/leagueclubs.h"
+#include "league/leagueclubs.h"
 #include "dialogs.h"
 #include "store/gamestore.h"
 

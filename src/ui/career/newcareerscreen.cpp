@@ -1,8 +1,7 @@
 #include "newcareerscreen.h"
 
-#include "career/leagueclubs.h"
-#include "career/newcareer.h"
-#include "career/nationalities.h"
+#include "league/leagueclubs.h"
+#include "league/nationalities.h"
 #include "common/plainlabel.h"
 #include "common/theme.h"
 #include "crestbutton.h"
@@ -32,8 +31,8 @@ const QStringList &NewCareerScreen::nationalities()
     return names;
 }
 
-NewCareerScreen::NewCareerScreen(game::Context context, QWidget *parent)
-    : QDialog(parent), m_context(context)
+NewCareerScreen::NewCareerScreen(game::Career &career, QWidget *parent)
+    : QDialog(parent), m_career(career)
 {
     setObjectName(QStringLiteral("Liga_Manager"));
     setWindowTitle(tr("Comenzar Liga Manager"));
@@ -132,8 +131,7 @@ void NewCareerScreen::chooseClub(int clubId, const QString &caption)
 
 void NewCareerScreen::proceed()
 {
-    game::NewCareer career(m_context);
-    if (career.start({m_nombre->text(), m_apellidos->text(), m_clubId, m_chosen->text()}))
+    if (m_career.start({m_nombre->text(), m_apellidos->text(), m_clubId, m_chosen->text()}))
         emit careerStarted();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "context.h"
+#include "career/career.h"
 
 #include <QDialog>
 
@@ -19,7 +19,7 @@ class NewCareerScreen : public QDialog
     Q_OBJECT
 
 public:
-    explicit NewCareerScreen(game::Context context, QWidget *parent = nullptr);
+    explicit NewCareerScreen(game::Career &career, QWidget *parent = nullptr);
 
     // The nationalities offered; the choice is only shown, the game keeps it nowhere.
     static const QStringList &nationalities();
@@ -31,7 +31,7 @@ private:
     void chooseClub(int clubId, const QString &caption);
     void proceed();
 
-    game::Context m_context;
+    game::Career &m_career;
     int m_clubId = 0;
     QLineEdit *m_nombre;
     QLineEdit *m_apellidos;

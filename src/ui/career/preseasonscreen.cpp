@@ -1,6 +1,6 @@
 #include "preseasonscreen.h"
 
-#include "career/fixture.h"
+#include "league/fixture.h"
 #include "common/artwork.h"
 #include "common/indexedlabel.h"
 #include "common/plainlabel.h"
@@ -29,15 +29,13 @@ QLabel *columnHeader(const QString &text)
 
 } // namespace
 
-PreseasonScreen::PreseasonScreen(game::Context context, QWidget *parent)
-    : QWidget(parent), m_planner(context)
+PreseasonScreen::PreseasonScreen(game::Career &career, QWidget *parent)
+    : QWidget(parent), m_career(career), m_planner(career.planner())
 {
     setObjectName(QStringLiteral("Pretemporada"));
     setWindowTitle(tr("Pretemporada"));
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QStringLiteral("QWidget#Pretemporada { background-color: #0f1e3c; }"));
-
-    m_planner.begin();
 
     auto *name = plainLabel(m_planner.manager());
     name->setObjectName(QStringLiteral("lblNombre"));
@@ -52,10 +50,8 @@ PreseasonScreen::PreseasonScreen(game::Context context, QWidget *parent)
 
     auto *seguir = new QPushButton(tr("SEGUIR"));
     seguir->setObjectName(QStringLiteral("cmdSeguir"));
-    connect(seguir, &QPushButton::clicked, this, [this] {
-        if (m_planner.proceed())
-            emit seasonPlanned();
-    });
+    // The career makes the calendar and opens week 1; its panel follows.
+    connect(seguir, &QPushButton::clicked, this, [this] { m_career.beginSeason(); });
     auto *volver = new QPushButton(tr("VOLVER"));
     volver->setObjectName(QStringLiteral("cmdVOLVER"));
     volver->setProperty("role", QStringLiteral("secondary"));

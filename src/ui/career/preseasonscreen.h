@@ -1,6 +1,6 @@
 #pragma once
 
-#include "career/preseason.h"
+#include "career/career.h"
 
 #include <QWidget>
 
@@ -17,10 +17,9 @@ class PreseasonScreen : public QWidget
     Q_OBJECT
 
 public:
-    explicit PreseasonScreen(game::Context context, QWidget *parent = nullptr);
+    explicit PreseasonScreen(game::Career &career, QWidget *parent = nullptr);
 
 signals:
-    void seasonPlanned();
     void backToMenu();
 
 protected:
@@ -33,7 +32,8 @@ private:
     void chooseClub(const QString &name);
     void showSlots();
 
-    game::Preseason m_planner;
+    game::Career &m_career;
+    game::Preseason &m_planner;
     QLabel *m_countryChosen;
     QLabel *m_countryHovered;
     QLabel *m_clubChosen;

@@ -34,8 +34,8 @@ QLabel *infoLabel(const char *name, int pointSize)
 
 } // namespace
 
-WeekPanel::WeekPanel(game::Week &week, const ScreenExists &exists, QWidget *parent)
-    : QWidget(parent), m_week(week), m_exists(exists), m_timer(new QTimer(this))
+WeekPanel::WeekPanel(game::Career &career, const ScreenExists &exists, QWidget *parent)
+    : QWidget(parent), m_career(career), m_exists(exists), m_timer(new QTimer(this))
 {
     setObjectName(QStringLiteral("Panel_Control_Manager"));
     setWindowTitle(QStringLiteral("Menu Manager"));
@@ -159,8 +159,9 @@ void WeekPanel::showWeek()
             button->setEnabled(m_exists(screen));
     }
 
-    const std::optional<game::Fixture> &fixture = m_week.fixture();
-    m_weekLabel->setText(m_week.isOpen() ? QString::number(m_week.number()) : QString());
+    const game::Week &week = m_career.week();
+    const std::optional<game::Fixture> &fixture = week.fixture();
+    m_weekLabel->setText(week.isOpen() ? QString::number(week.number()) : QString());
     m_home->setText(fixture ? fixture->homeName : QString());
     m_away->setText(fixture ? fixture->awayName : QString());
     m_type->setText(fixture ? fixture->typeText() : QString());
@@ -168,38 +169,36 @@ void WeekPanel::showWeek()
     m_match->setText(fixture && fixture->isLeague() ? QString::number(fixture->idpartido) : QString());
 
     // The window names the manager, his club and the week's match.
-    const game::CareerRow &career = m_week.career();
+    const game::CareerRow &career = week.career();
     QString title = QStringLiteral("Menu Manager ~ %1 -> %2").arg(career.manager(), career.clubName);
     if (fixture) {
         const QString stage = fixture->isLeague() ? tr("Jornada %1").arg(fixture->round)
-                                                  : tr("Semana %1").arg(m_week.number());
+                                                  : tr("Semana %1").arg(week.number());
         title += QStringLiteral(" <-> %1 <- %2 - %3 <-> %4/%5")
                      .arg(game::shownDate(fixture->date), fixture->homeName, fixture->awayName,
                           fixture->typeText(), stage);
-    } else if (m_week.isOpen()) {
-        title += QStringLiteral(" <-> ") + tr("Semana %1").arg(m_week.number());
+    } else if (week.isOpen()) {
+        title += QStringLiteral(" <-> ") + tr("Semana %1").arg(week.number());
     }
     setWindowTitle(title);
 
-    if (m_week.isOpen() && !m_week.eventsRun())
+    if (m_career.stage() == game::Career::Stage::Week && !week.eventsRun())
         m_timer->start();
 }
 
 void WeekPanel::runWeekEvents()
 {
     m_timer->stop();
-    m_week.runEvents();
-    // Television's offer comes last among the week's events and waits for the player's OK,
-    // also when the events ran before the panel's turn.
-    if (m_week.broadcast())
-        emit openRequested(QStringLiteral("Tele"));
+    // Television's offer, the last of the events, is brought up by the career's signal.
+    m_career.runEvents();
 }
 
 void WeekPanel::seguir()
 {
-    // A week whose match is recorded but whose next week could not open goes on from here.
-    if (m_week.played())
-        emit nextWeekRequested();
+    // A career that stopped at a step that failed goes on from here; an open week goes to its
+    // match.
+    if (m_career.stage() != game::Career::Stage::Week)
+        emit goOnRequested();
     else
         emit openRequested(QStringLiteral("Alinear"));
 }

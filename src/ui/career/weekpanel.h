@@ -1,6 +1,6 @@
 #pragma once
 
-#include "career/week.h"
+#include "career/career.h"
 
 #include <QWidget>
 
@@ -26,7 +26,7 @@ public:
     // is shown disabled.
     using ScreenExists = std::function<bool(const QString &)>;
 
-    WeekPanel(game::Week &week, const ScreenExists &exists, QWidget *parent = nullptr);
+    WeekPanel(game::Career &career, const ScreenExists &exists, QWidget *parent = nullptr);
 
     // Shows the open week, and starts its events' timer if they have not run.
     void showWeek();
@@ -37,8 +37,9 @@ public:
 signals:
     // A button asks for its screen, by name.
     void openRequested(const QString &screen);
-    // The week's match has been played but the next week could not open: "SEGUIR" tries again.
-    void nextWeekRequested();
+    // The career stopped at a step that failed (the next week could not open, the season could
+    // not close): "SEGUIR" takes it up again.
+    void goOnRequested();
     void leaveRequested();
 
 protected:
@@ -49,7 +50,7 @@ private:
     QPushButton *addButton(const char *name, const QString &caption, const QString &screen);
     void seguir();
 
-    game::Week &m_week;
+    game::Career &m_career;
     ScreenExists m_exists;
     QTimer *m_timer;
     QLabel *m_weekLabel;

@@ -69,9 +69,9 @@ QColor lineColour(game::MatchEngine::Line::Kind kind)
 
 } // namespace
 
-MatchScreen::MatchScreen(game::Context context, const game::Fixture &fixture, const game::Week::Kickoff &kickoff,
-                         QWidget *parent)
-    : QDialog(parent), m_context(context), m_fixture(fixture), m_timer(new QTimer(this))
+MatchScreen::MatchScreen(game::Context context, game::MatchEngine &engine, const game::Fixture &fixture,
+                         const game::Gate::Report &gate, QWidget *parent)
+    : QDialog(parent), m_context(context), m_fixture(fixture), m_engine(&engine), m_timer(new QTimer(this))
 {
     setObjectName(QStringLiteral("partido"));
     setWindowTitle(tr("Partido"));
@@ -79,8 +79,6 @@ MatchScreen::MatchScreen(game::Context context, const game::Fixture &fixture, co
     m_timer->setObjectName(QStringLiteral("Timer1"));
     m_timer->setInterval(kTickMilliseconds);
     connect(m_timer, &QTimer::timeout, this, &MatchScreen::tick);
-
-    m_engine = std::make_unique<game::MatchEngine>(context.random, kickoff.setup);
 
     auto *body = new QHBoxLayout;
     body->setSpacing(16);
@@ -100,7 +98,7 @@ MatchScreen::MatchScreen(game::Context context, const game::Fixture &fixture, co
     findChild<QComboBox *>(QStringLiteral("DataCombo1"))->addItems(game::MatchDay(context).squadSurnames());
 
     // The crowd was settled before a ball is thrown; at home it is in the ledger already.
-    showGate(kickoff.gate);
+    showGate(gate);
     refresh();
     setMaximumSize(1280, 720);
     resize(1240, 700);

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "career/fixture.h"
-#include "career/week.h"
 #include "context.h"
+#include "league/fixture.h"
 #include "match/engine.h"
 #include "match/gate.h"
 
@@ -22,8 +21,9 @@ namespace ui {
 
 // "Partido": the week's match, played on a live commentary. The user starts each half, may
 // exchange players and announce a system at any moment, and leaves with "SALIR" at full time.
-// It opens on what the week's kick-off gives it, both sides and the crowd, and it fits the
-// 1280×720 window whatever the names: a long name is cut short, never the screen widened.
+// It shows the match the career has kicked off (the career owns it and records it when the
+// player leaves) and the crowd settled for it, and it fits the 1280×720 window whatever the
+// names: a long name is cut short, never the screen widened.
 class MatchScreen : public QDialog
 {
     Q_OBJECT
@@ -31,8 +31,8 @@ class MatchScreen : public QDialog
 public:
     static constexpr int kTickMilliseconds = 100;
 
-    MatchScreen(game::Context context, const game::Fixture &fixture, const game::Week::Kickoff &kickoff,
-                QWidget *parent = nullptr);
+    MatchScreen(game::Context context, game::MatchEngine &engine, const game::Fixture &fixture,
+                const game::Gate::Report &gate, QWidget *parent = nullptr);
     ~MatchScreen() override;
 
     const game::MatchEngine &engine() const { return *m_engine; }
@@ -65,7 +65,7 @@ private:
 
     game::Context m_context;
     game::Fixture m_fixture;
-    std::unique_ptr<game::MatchEngine> m_engine;
+    game::MatchEngine *m_engine;
     QTimer *m_timer;
     std::array<std::array<ClickableLabel *, 4>, game::MatchEngine::kRows> m_entries{};
     std::array<ClickableLabel *, game::MatchEngine::kRows> m_places{};

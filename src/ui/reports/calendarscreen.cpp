@@ -1,6 +1,6 @@
 #include "calendarscreen.h"
 
-#include "career/career.h"
+#include "league/careerrow.h"
 #include "common/indexedlabel.h"
 #include "common/plainlabel.h"
 #include "common/theme.h"
@@ -20,7 +20,7 @@ CalendarScreen::CalendarScreen(game::Context context, int currentWeek, QWidget *
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QStringLiteral("QWidget#Calendario { background-color: #0f1e3c; }"));
 
-    const int club = game::Career::current(context).club;
+    const int club = game::CareerRow::current(context).club;
     const std::vector<game::Calendar::Row> rows = game::Calendar(context.store).rows(currentWeek, club);
 
     auto *grid = new QGridLayout;

@@ -1,6 +1,6 @@
 #include "standingsscreen.h"
 
-#include "career/career.h"
+#include "league/careerrow.h"
 #include "common/artwork.h"
 #include "common/indexedlabel.h"
 #include "common/plainlabel.h"
@@ -44,7 +44,7 @@ StandingsScreen::StandingsScreen(game::Context context, QWidget *parent) : QWidg
 
     // The table is read afresh at every opening, and reading it writes the places.
     const std::vector<game::Standings::Row> rows = game::Standings(context).look();
-    const int userClub = game::Career::current(context).club;
+    const int userClub = game::CareerRow::current(context).club;
 
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(6);

@@ -1,7 +1,7 @@
 #include "addyouthscreen.h"
 
-#include "career/leagueclubs.h"
-#include "career/nationalities.h"
+#include "league/leagueclubs.h"
+#include "league/nationalities.h"
 #include "common/plainlabel.h"
 #include "common/theme.h"
 #include "transfers/youthacademy.h"

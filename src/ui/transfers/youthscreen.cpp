@@ -1,6 +1,6 @@
 #include "youthscreen.h"
 
-#include "career/leagueclubs.h"
+#include "league/leagueclubs.h"
 #include "common/plainlabel.h"
 #include "common/theme.h"
 #include "playergrid.h"

@@ -1,4 +1,4 @@
-#include "career/leagueclubs.h"
+#include "league/leagueclubs.h"
 #include "careerfixture.h"
 #include "match/callup.h"
 #include "match/tactics.h"

@@ -1,4 +1,4 @@
-#include "career/fixture.h"
+#include "league/fixture.h"
 #include "careerfixture.h"
 #include "match/results.h"
 

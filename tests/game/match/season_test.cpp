@@ -1,21 +1,52 @@
-#include "match/season.h"
+#include "sim/autoseason.h"
 #include "tempstore.h"
+
+#include <functional>
+
+// Seasons played by the headless manager, looked at as each ends: the final table and the
+// season's ledger stand until the close that follows at once empties them.
+class HeadlessSeason : public StoreTest
+{
+protected:
+    // Plays the season to its end; atTheEnd runs once, on the final table.
+    void playToTheEnd(game::AutoSeason &season, const std::function<void()> &atTheEnd)
+    {
+        int ended = 0;
+        const QMetaObject::Connection hook = QObject::connect(&season.career(), &game::Career::seasonEnding, [&] {
+            ++ended;
+            atTheEnd();
+        });
+        int weeks = 0;
+        while (season.playWeek())
+            ASSERT_LT(++weeks, 40);
+        QObject::disconnect(hook);
+        EXPECT_EQ(ended, 1);
+        ASSERT_TRUE(season.failure().isEmpty()) << season.failure().toStdString();
+    }
+
+    void checkTheTable();
+    void checkTheLedger(const game::AutoSeason::Totals &totals);
+};
 
 // Guards: a season that cannot be played to its end, or a table that does not add up after
 // thirty rounds played by the engine and the strength rule together.
-TEST_F(StoreTest, aWholeSeasonPlaysToTheEndAndTheTableAddsUp)
+TEST_F(HeadlessSeason, aWholeSeasonPlaysToTheEndAndTheTableAddsUp)
 {
     m_random = ScriptedRandom(31);
     game::AutoSeason season(*m_context, {9, 3});
     ASSERT_TRUE(season.begin());
-    int weeks = 0;
-    while (season.playWeek())
-        ASSERT_LT(++weeks, 40);
-    EXPECT_TRUE(season.failure().isEmpty()) << season.failure().toStdString();
+    playToTheEnd(season, [&] { checkTheTable(); });
     EXPECT_EQ(season.totals().weeks, 33);
     EXPECT_EQ(season.totals().matches, 33);
-    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 34);
+    EXPECT_EQ(season.totals().worksOrdered, 0);
+    EXPECT_EQ(season.totals().tvIncome, 0);
+    // A quiet manager hears only the television's weekly word, and touches nothing else.
+    EXPECT_EQ(m_dialogs.texts(), QStringList(33, QStringLiteral("Cargando... Pulse Aceptar para continuar")));
+}
 
+void HeadlessSeason::checkTheTable()
+{
+    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 34);
     EXPECT_EQ(m_store->integer("select count(*) from liga_asobal where goles_equipo_local = 0 and goles_equipo_visitante = 0"), 0);
     EXPECT_EQ(m_store->integer("select count(*) from asobal where \"Partidos_ Ganados\" + Partidos_Empatados + Partidos_Perdidos <> 30"), 0);
     EXPECT_EQ(m_store->integer("select sum(Goles_Favor) - sum(Goles_Contra) from asobal"), 0);
@@ -28,10 +59,6 @@ TEST_F(StoreTest, aWholeSeasonPlaysToTheEndAndTheTableAddsUp)
                                " from liga_asobal f join asobal h on h.puesto_anterior = f.pos_equipo_local"
                                " join asobal a on a.puesto_anterior = f.pos_equipo_visitante where 9 in (h.teams, a.teams)"));
     EXPECT_EQ(count("caja"), 33);
-    // A quiet manager hears only the television's weekly word, and touches nothing else.
-    EXPECT_EQ(m_dialogs.texts(), QStringList(33, QStringLiteral("Cargando... Pulse Aceptar para continuar")));
-    EXPECT_EQ(season.totals().worksOrdered, 0);
-    EXPECT_EQ(season.totals().tvIncome, 0);
     EXPECT_EQ(count("selects"), 0);
     EXPECT_EQ(m_store->integer("select sum(ingresos_TV) + sum(Gastos_Remodelaciones) from caja"), 0);
     EXPECT_EQ(m_store->integer("select precio_entrada from entradas where idPrecio = 1"), 10);
@@ -40,7 +67,7 @@ TEST_F(StoreTest, aWholeSeasonPlaysToTheEndAndTheTableAddsUp)
 // Guards: a season in which works, broadcasts, the shop and the gate do not add up in the
 // ledger week after week: an income that reaches the budget, a work charged twice or never,
 // a fee booked without the OK, or the busy manager's choices not the cheapest on offer.
-TEST_F(StoreTest, aBusySeasonEndsWorksAndKeepsTheLedgerConsistent)
+TEST_F(HeadlessSeason, aBusySeasonEndsWorksAndKeepsTheLedgerConsistent)
 {
     m_random = ScriptedRandom(13);
     // Club 13 lacks a lot: parking, a shop, heating; small levels elsewhere; 3100 seats.
@@ -56,11 +83,11 @@ TEST_F(StoreTest, aBusySeasonEndsWorksAndKeepsTheLedgerConsistent)
     EXPECT_EQ(ordered, (QStringList{QStringLiteral("gradas 1000 1000000 12"), QStringLiteral("parking 0 3500000 30"),
                                     QStringLiteral("focos 2 120000 6"), QStringLiteral("enfermeria 1 60000 4")}));
 
-    int weeks = 1;
-    while (season.playWeek())
-        ASSERT_LT(++weeks, 40);
-    ASSERT_TRUE(season.failure().isEmpty()) << season.failure().toStdString();
-    const game::AutoSeason::Totals &totals = season.totals();
+    playToTheEnd(season, [&] { checkTheLedger(season.totals()); });
+}
+
+void HeadlessSeason::checkTheLedger(const game::AutoSeason::Totals &totals)
+{
     EXPECT_EQ(totals.weeks, 33);
     EXPECT_GT(totals.worksFinished, 0);
     EXPECT_EQ(count("selects where observaciones <> ' '"), totals.worksOrdered - totals.worksFinished);
@@ -111,7 +138,7 @@ TEST_F(StoreTest, aBusySeasonEndsWorksAndKeepsTheLedgerConsistent)
 // Guards: a career that drifts over many seasons: a close that leaves orders, ledger rows,
 // fixtures or friendlies behind, places that repeat, players' ids with gaps, a league club
 // left without a squad, or a match that cannot be played.
-TEST_F(StoreTest, twentyBusySeasonsKeepEveryInvariantAfterEachClose)
+TEST_F(HeadlessSeason, twentyBusySeasonsKeepEveryInvariantAfterEachClose)
 {
     m_random = ScriptedRandom(2020);
     game::AutoSeason season(*m_context, {6, 2, game::AutoSeason::Policy::Busy});
@@ -141,8 +168,9 @@ TEST_F(StoreTest, twentyBusySeasonsKeepEveryInvariantAfterEachClose)
                   16)
             << played;
         EXPECT_EQ(season.totals().matches, played * 32) << played;
-        // The next season is planned: two friendlies and the thirty rounds.
-        EXPECT_EQ(count("calendario"), 32) << played;
+        // The next season is planned: its two friendlies; the calendar comes as it begins.
+        EXPECT_EQ(count("pretemporada"), 2) << played;
+        EXPECT_EQ(count("calendario"), 0) << played;
         EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 0) << played;
     }
     EXPECT_EQ(season.totals().matches, 20 * 32);

@@ -1,5 +1,5 @@
-#include "career/career.h"
-#include "career/fixture.h"
+#include "league/careerrow.h"
+#include "league/fixture.h"
 #include "stadium/prices.h"
 #include "tempstore.h"
 

@@ -1,4 +1,4 @@
-#include "career/fixture.h"
+#include "league/fixture.h"
 #include "career/week.h"
 #include "career/weekevents.h"
 #include "careerfixture.h"

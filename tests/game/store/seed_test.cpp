@@ -1,6 +1,6 @@
 // What the rules of the game count on in the database every career starts from.
 
-#include "career/leagueclubs.h"
+#include "league/leagueclubs.h"
 #include "tempstore.h"
 
 #include <QDate>

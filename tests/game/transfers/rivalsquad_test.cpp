@@ -1,5 +1,5 @@
-#include "career/fixture.h"
-#include "career/leagueclubs.h"
+#include "league/fixture.h"
+#include "league/leagueclubs.h"
 #include "careerfixture.h"
 #include "transfers/rivalsquad.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "career/week.h"
+#include "career/career.h"
 #include "context.h"
 
 #include <QString>
@@ -10,8 +10,8 @@
 
 namespace game {
 
-// A career played without a window, through the same routines the screens call: the
-// headless simulator and the benchmarks use it. Every question is answered No, every
+// A manager without a window: he leads a game::Career as a player leads it from the screens,
+// for the headless simulator and the benchmarks. Every question is answered No, every
 // message acknowledged.
 //
 // A quiet manager only plays his matches. A busy one also runs the club the way an eager
@@ -24,6 +24,7 @@ namespace game {
 //   AutoSeason season(context, {.club = 4, .friendlies = 2, .policy = AutoSeason::Policy::Busy});
 //   season.begin();
 //   while (season.playWeek()) {}
+//   season.closeSeason();                  // the verdict read, the orders settled, planned again
 class AutoSeason
 {
 public:
@@ -72,18 +73,20 @@ public:
         int goalsAgainst = 0;
         qint64 budget = 0;    // the club's budget once every order has been settled
     };
-    // Closes the season just played as the window does: ranked, its verdict, every order
-    // settled; then the next pre-season is planned, its friendlies drawn again. False when
-    // that failed.
+    // After the season's last week (its close has ranked the league): the verdict is read,
+    // every order settled, and the next pre-season planned, its friendlies drawn again.
+    // False when that failed.
     bool closeSeason(SeasonSummary *summary = nullptr);
 
-    // Lives the next week as the window does, through the same week: it opens, its events
-    // run, the best fourteen are called up, both halves are played through the engine and
-    // the result is recorded. False once the season is over or a routine failed.
+    // Lives the open week as a player does (the season's first opens when the planned season
+    // begins): its events run, the best fourteen are called up, both halves are played
+    // through the engine and the result is recorded, and the next week opens. False once the
+    // season is over or a routine failed.
     bool playWeek();
 
     const Totals &totals() const { return m_totals; }
     const QString &failure() const { return m_failure; }
+    Career &career() { return m_career; }
 
 private:
     bool playWeekBody();
@@ -99,7 +102,7 @@ private:
     std::unique_ptr<Dialogs> m_answers;
     Context m_context;
     Options m_options;
-    Week m_week;
+    Career m_career;
     Totals m_totals;
     QString m_failure;
 };

@@ -1,6 +1,6 @@
-#include "season.h"
+#include "autoseason.h"
 
-#include "career/leagueclubs.h"
+#include "league/leagueclubs.h"
 #include "career/newcareer.h"
 #include "career/preseason.h"
 #include "career/seasonclose.h"
@@ -46,7 +46,7 @@ constexpr int kSquadToKeep = 16;
 
 AutoSeason::AutoSeason(Context context, Options options)
     : m_answers(std::make_unique<ManagersAnswers>(context.dialogs, options.policy == Policy::Busy)),
-      m_context{context.store, context.random, *m_answers}, m_options(options), m_week(m_context)
+      m_context{context.store, context.random, *m_answers}, m_options(options), m_career(m_context)
 {
 }
 
@@ -55,7 +55,7 @@ AutoSeason::~AutoSeason() = default;
 bool AutoSeason::begin()
 {
     const QString caption = leagueClubCaption(m_options.club);
-    if (!NewCareer(m_context).start({QStringLiteral("Simulador"), QStringLiteral("Zarpazo"), m_options.club, caption})) {
+    if (!m_career.start({QStringLiteral("Simulador"), QStringLiteral("Zarpazo"), m_options.club, caption})) {
         m_failure = QStringLiteral("the career could not start");
         return false;
     }
@@ -64,8 +64,7 @@ bool AutoSeason::begin()
 
 bool AutoSeason::planPreseason()
 {
-    Preseason planner(m_context);
-    planner.begin();
+    Preseason &planner = m_career.planner();
     for (int slot = 0; slot < Preseason::kSlots; ++slot) {
         if (slot < m_options.friendlies) {
             // A club of another country, drawn: country 2 to 18, then a club of its list.
@@ -75,48 +74,42 @@ bool AutoSeason::planPreseason()
             planner.decline();
         }
     }
-    if (!planner.proceed()) {
-        m_failure = QStringLiteral("the season could not be planned");
-        return false;
-    }
+    // Week 1 opens when the season is played.
     return true;
 }
 
 bool AutoSeason::closeSeason(SeasonSummary *summary)
 {
-    if (!m_week.seasonOver()) {
+    if (!m_career.verdict()) {
         m_failure = QStringLiteral("the season is not over");
         return false;
     }
-    GameStore &store = m_context.store;
-    const int club = m_options.club;
-    SeasonSummary record;
-    store.attempt([&] {
-        GameStore::Query line = store.query("select Puntos, Goles_Favor, Goles_Contra from asobal where teams = ?", club);
-        if (line.next()) {
-            record.points = line.integer(0);
-            record.goalsFor = line.integer(1);
-            record.goalsAgainst = line.integer(2);
-        }
-    });
-    const std::optional<SeasonClose::Verdict> verdict = m_week.closeSeason();
-    if (!verdict) {
-        m_failure = QStringLiteral("the season could not be closed");
+    const SeasonClose::Verdict verdict = *m_career.verdict();
+    if (!m_career.settleOrders()) {
+        m_failure = QStringLiteral("the season's orders could not be settled");
         return false;
     }
-    m_week.settleOrders();
-    record.champion = verdict->championName;
-    record.place = 17 - verdict->userPlace; // the close stores 16 for the champion
-    store.attempt([&] { record.budget = store.integer("select presupuesto from infoteams where idequipo = ?", club); });
-    if (summary)
-        *summary = record;
+    if (summary) {
+        summary->champion = verdict.championName;
+        summary->place = 17 - verdict.userPlace; // the close stores 16 for the champion
+        summary->points = verdict.points;
+        summary->goalsFor = verdict.goalsFor;
+        summary->goalsAgainst = verdict.goalsAgainst;
+        m_context.store.attempt([&] { summary->budget = Ledger(m_context.store).budget(m_options.club); });
+    }
     return planPreseason();
 }
 
 bool AutoSeason::playWeek()
 {
-    // The whole week is one transaction: its opening, its events, the call-up, the gate and
-    // the result, so a headless season never leaves a week half written.
+    if (m_career.stage() == Career::Stage::Planning && !m_career.beginSeason()) {
+        m_failure = QStringLiteral("the season could not be planned");
+        return false;
+    }
+    if (m_career.stage() != Career::Stage::Week)
+        return false;
+    // The whole week is one transaction: its events, the call-up, the gate, the result and
+    // the opening of the next week, so a headless season never leaves a week half written.
     bool goOn = false;
     const Result week = m_context.store.run([&] { goOn = playWeekBody(); });
     if (!week) {
@@ -128,27 +121,27 @@ bool AutoSeason::playWeek()
 
 bool AutoSeason::playWeekBody()
 {
-    if (!m_week.open()) {
-        m_failure = QStringLiteral("the week could not open");
-        return false;
-    }
-    if (m_week.seasonOver())
-        return false;
+    Week &week = m_career.week();
     ++m_totals.weeks;
-    m_week.runEvents();
-    m_totals.worksFinished += m_week.news().worksFinished;
-    m_totals.signings += m_week.news().signings;
-    m_totals.refusals += m_week.news().refusals;
-    m_totals.sales += m_week.news().sale ? 1 : 0;
+    m_career.runEvents();
+    m_totals.worksFinished += week.news().worksFinished;
+    m_totals.signings += week.news().signings;
+    m_totals.refusals += week.news().refusals;
+    m_totals.sales += week.news().sale ? 1 : 0;
     Ledger ledger(m_context.store);
     // Before the match the shop is the only income of its column; the cafeterias come with
     // the crowd.
-    if (const std::optional<Ledger::Row> row = ledger.row(m_week.number()))
+    if (const std::optional<Ledger::Row> row = ledger.row(week.number()))
         m_totals.shopIncome += row->tiendas;
     if (m_options.policy == Policy::Busy)
         actBusy();
-    if (!m_week.fixture())
+    if (!week.fixture()) {
+        if (!m_career.goOn()) {
+            m_failure = QStringLiteral("the week could not open");
+            return false;
+        }
         return true;
+    }
 
     CallUp callUp(m_context);
     callUp.chooseBest();
@@ -156,38 +149,43 @@ bool AutoSeason::playWeekBody()
         m_failure = QStringLiteral("fewer than fourteen players");
         return false;
     }
-    const std::optional<Week::Kickoff> kickoff = m_week.kickOff();
-    if (!kickoff) {
+    MatchEngine *match = m_career.kickOff();
+    if (!match) {
         m_failure = QStringLiteral("the match could not start");
         return false;
     }
-    if (const std::optional<Ledger::Row> row = ledger.row(m_week.number()))
+    if (const std::optional<Ledger::Row> row = ledger.row(week.number()))
         m_totals.gateIncome += row->taquilla + row->publicidad;
-    MatchEngine engine(m_context.random, kickoff->setup);
     for (int half = 0; half < 2; ++half) {
-        engine.start();
-        while (engine.running())
-            engine.tick();
+        match->start();
+        while (match->running())
+            match->tick();
     }
-    if (!m_week.recordResult(engine.score(0), engine.score(1))) {
-        m_failure = QStringLiteral("the result could not be recorded");
+    const int goalsFor = match->score(match->userSide());
+    const int goalsAgainst = match->score(match->rivalSide());
+    if (!m_career.finishMatch()) {
+        if (m_career.stage() == Career::Stage::Week)
+            m_failure = QStringLiteral("the result could not be recorded");
+        else
+            m_failure = QStringLiteral("the week could not open");
         return false;
     }
     ++m_totals.matches;
-    m_totals.goalsFor += engine.score(engine.userSide());
-    m_totals.goalsAgainst += engine.score(engine.rivalSide());
+    m_totals.goalsFor += goalsFor;
+    m_totals.goalsAgainst += goalsAgainst;
     return true;
 }
 
 void AutoSeason::actBusy()
 {
-    if (m_week.broadcast() && m_week.acceptBroadcast())
+    Week &week = m_career.week();
+    if (week.broadcast() && week.acceptBroadcast())
         m_totals.tvIncome += Ledger::kTelevisionFee;
     orderCheapestWorks();
     makeAnOffer();
     listASpareMan();
     renewAShortContract();
-    if (Prices::homeWeek(m_week.fixture(), m_week.career())) {
+    if (Prices::homeWeek(week.fixture(), week.career())) {
         Prices prices(m_context);
         if (prices.ticket() < Prices::kTicketHighest)
             prices.raiseTicket();
@@ -225,7 +223,7 @@ void AutoSeason::orderCheapestWorks()
 void AutoSeason::makeAnOffer()
 {
     // A listed player of another club, drawn among the four lists, at the terms he asks.
-    const int club = m_week.career().club;
+    const int club = m_career.week().career().club;
     Market market(m_context);
     const int player = market.drawForSale(club);
     if (player == 0)
@@ -238,7 +236,7 @@ void AutoSeason::makeAnOffer()
 void AutoSeason::listASpareMan()
 {
     GameStore &store = m_context.store;
-    const int club = m_week.career().club;
+    const int club = m_career.week().career().club;
     if (store.integer("select count(*) from jugadores where idequipo = ?", club) <= kSquadToKeep)
         return;
     const int weakest = int(store.integer("select idjugador from jugadores where idequipo = ? and venta = 0"
@@ -251,7 +249,7 @@ void AutoSeason::listASpareMan()
 void AutoSeason::renewAShortContract()
 {
     GameStore &store = m_context.store;
-    const int club = m_week.career().club;
+    const int club = m_career.week().career().club;
     const int player = int(store.integer("select min(idjugador) from jugadores where idequipo = ?"
                                          " and \"Años_Contrato\" <= 1",
                                          club));

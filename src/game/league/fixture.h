@@ -38,4 +38,11 @@ std::optional<Fixture> fixtureOfWeek(GameStore &store, int week, int userClub);
 // A date of the store (ISO text) as the game shows it: 21/08/2004.
 QString shownDate(const QDate &date);
 
+// A big match: both clubs of the same class, or next to each other in the league table (one
+// place apart; two clubs on the same place are not neighbours). A club with no class or no
+// place, such as a club from abroad in a friendly, cannot be compared, and that counts as a
+// big match too. A big match fills the house, and it is the match television buys. Reads
+// that fail count as a club that cannot be compared.
+bool isBigMatch(GameStore &store, int homeClub, int awayClub);
+
 } // namespace game

@@ -1,4 +1,4 @@
-#include "session.h"
+#include "career/session.h"
 
 #include "store/gamestore.h"
 

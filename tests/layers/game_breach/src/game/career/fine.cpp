@@ -1,0 +1,2 @@
+// The career may use the stadium.
+#include "stadium/works.h"
