@@ -2,6 +2,7 @@
 
 #include "league/leagueclubs.h"
 #include "dialogs.h"
+#include "career/statements.h"
 #include "store/gamestore.h"
 
 #include <QObject>
@@ -23,22 +24,10 @@ bool NewCareer::start(const CareerChoice &choice)
 
     GameStore &store = m_context.store;
     const Result written = store.run([&] {
-        // The manager becomes the coach of the club he takes over; the board and the public
-        // start with a middling confidence in him.
-        store.execute("update entrenadores set nombre = ?, apellidos = ?,"
-                      " confianza_directivos = 5, confianza_publico = 5, puntuacion = 5"
-                      " where idEntrenador = ?",
-                      choice.nombre, choice.apellidos, choice.clubId);
-        store.execute("delete from pretemporada");
-        store.execute("delete from calendario");
-        // A new career starts with an empty market.
-        store.execute("update jugadores set venta = 0 where venta <> 0");
-        store.execute("update datos_jugador set jornada = 0, nombre = ?, apellidos = ?,"
-                      " idequipo = ?, NombreEquipo = ?",
-                      choice.nombre, choice.apellidos, choice.clubId, choice.clubCaption);
-        store.execute("delete from caja");
-        store.execute("delete from selects");
-        store.execute("delete from jugar");
+        // The manager becomes the coach of the club he takes over.
+        sql::career::appointCoach(store, choice.clubId, choice.nombre, choice.apellidos);
+        sql::career::clearLastCareer(store);
+        sql::career::writeCareerRow(store, choice.nombre, choice.apellidos, choice.clubId, choice.clubCaption);
     });
     if (!written) {
         dialogs.tell(written.message(), Dialogs::Icon::Exclamation);

@@ -4,7 +4,9 @@
 #include "league/leagueclubs.h"
 #include "dialogs.h"
 #include "random.h"
+#include "career/statements.h"
 #include "store/gamestore.h"
+#include "transfers/market.h"
 
 #include <QObject>
 
@@ -58,7 +60,7 @@ void Preseason::begin()
         m_manager = career.manager();
         m_club = career.club;
         m_clubName = career.clubName;
-        store.execute("update datos_jugador set jornada = 0");
+        sql::career::setWeek(store, 0);
     });
     if (!result)
         m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
@@ -66,16 +68,8 @@ void Preseason::begin()
 
 QStringList Preseason::clubsOf(int countryCode)
 {
-    QStringList names;
-    m_context.store.attempt([&] {
-        // Only Spain's list leaves a club out, the user's own.
-        GameStore::Query clubs = m_context.store.query(
-            "select NombreEquipo from equipos where codpais = ? and idequipo <> ? order by idequipo", countryCode,
-            countryCode == 1 ? m_club : 0);
-        while (clubs.next())
-            names << clubs.text(0);
-    });
-    return names;
+    // The market's list of a country's clubs, where Spain's leaves out the user's own.
+    return Market(m_context).clubsOf(countryCode);
 }
 
 int Preseason::choose(const QString &clubName)
@@ -87,26 +81,15 @@ int Preseason::choose(const QString &clubName)
     const int number = slot + 1;
     Slot filled;
     const Result result = store.run([&] {
-        const int rival = static_cast<int>(store.integer("select idequipo from equipos where NombreEquipo like ?", clubName));
+        const int rival = sql::career::clubNamed(store, clubName);
         if (rival == 0)
             return;
         // The first four are played away; the fifth, the presentation, at home.
         const bool atHome = number == kSlots;
-        store.execute("insert into pretemporada (idpartido, equipo_local, equipo_visitante, fecha)"
-                      " values (?, ?, ?, ?)",
-                      number, atHome ? m_club : rival,
-                      atHome ? rival : m_club, kSlotDates[std::size_t(slot)].toString(Qt::ISODate));
-        GameStore::Query readBack = store.query(
-            "select l.NombreEquipo, v.NombreEquipo, p.fecha from pretemporada p"
-            " join equipos l on l.idequipo = p.equipo_local join equipos v on v.idequipo = p.equipo_visitante"
-            " where p.idpartido = ?",
-            number);
-        if (readBack.next()) {
-            filled.state = Slot::State::Chosen;
-            filled.home = readBack.text(0);
-            filled.away = readBack.text(1);
-            filled.date = QDate::fromString(readBack.text(2), Qt::ISODate);
-        }
+        sql::career::writeFriendly(store, number, atHome ? m_club : rival, atHome ? rival : m_club,
+                                   kSlotDates[std::size_t(slot)]);
+        if (const std::optional<sql::career::Friendly> written = sql::career::friendly(store, number))
+            filled = Slot{Slot::State::Chosen, written->home, written->away, written->date};
     });
     if (!result) {
         m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
@@ -136,7 +119,7 @@ bool Preseason::takeBack()
     const int number = m_dealt;
     // A declined slot has no row, and nothing is deleted.
     const Result result = m_context.store.run(
-        [&] { m_context.store.execute("delete from pretemporada where idpartido = ?", number); });
+        [&] { sql::career::eraseFriendly(m_context.store, number); });
     if (!result) {
         m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
         return false;
@@ -167,30 +150,14 @@ bool Preseason::proceed()
 void Preseason::buildCalendar()
 {
     GameStore &store = m_context.store;
-    struct Match
-    {
-        int id;
-        QString date;
-    };
-    std::vector<Match> weeks;
-    // The friendlies actually played come first; a declined slot takes no week.
-    GameStore::Query friendlies = store.query("select idpartido, fecha from pretemporada order by idpartido");
-    while (friendlies.next())
-        weeks.push_back({friendlies.integer(0), friendlies.text(1)});
-    // Then the club's thirty league matches, in round order.
-    GameStore::Query league = store.query(
-        "select idpartido, fecha from liga_asobal"
-        " where pos_equipo_local = (select puesto_anterior from asobal where teams = ?1)"
-        " or pos_equipo_visitante = (select puesto_anterior from asobal where teams = ?1)"
-        " order by jornada, idpartido",
-        m_club);
-    while (league.next())
-        weeks.push_back({league.integer(0), league.text(1)});
-
+    // The friendlies actually played come first, a declined slot taking no week; then the
+    // club's thirty league matches, in round order.
+    std::vector<sql::career::CalendarMatch> weeks = sql::career::friendliesPlanned(store);
+    for (const sql::career::CalendarMatch &match : sql::career::leagueMatchesOf(store, m_club))
+        weeks.push_back(match);
     int week = 0;
-    for (const Match &match : weeks)
-        store.execute("insert into calendario (semana, idpartido, fecha) values (?, ?, ?)", ++week, match.id,
-                      match.date);
+    for (const sql::career::CalendarMatch &match : weeks)
+        sql::career::writeCalendarWeek(store, ++week, match);
 }
 
 void Preseason::drawMarket()
@@ -200,13 +167,9 @@ void Preseason::drawMarket()
     // or the user's own club lists nobody, and a player drawn twice stays listed once. Listed
     // players stay listed from season to season, so the market grows.
     GameStore &store = m_context.store;
-    const int players = static_cast<int>(store.integer("select count(*) from jugadores"));
-    for (int draw = 0; draw < kMarketDraws; ++draw) {
-        const int id = m_context.random.draw(players);
-        store.execute("update jugadores set venta = 1 where idjugador = ? and idequipo <> ? and idequipo <> ?"
-                      " and idequipo <> ?",
-                      id, kYouthPool, kReleasedPool, m_club);
-    }
+    const int players = sql::career::playerCount(store);
+    for (int draw = 0; draw < kMarketDraws; ++draw)
+        sql::career::listPlayerUnlessOf(store, m_context.random.draw(players), kYouthPool, kReleasedPool, m_club);
 }
 
 } // namespace game

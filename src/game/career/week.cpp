@@ -9,6 +9,7 @@
 #include "transfers/bids.h"
 #include "transfers/offers.h"
 #include "transfers/rivalsquad.h"
+#include "career/statements.h"
 #include "store/gamestore.h"
 
 namespace game {
@@ -42,17 +43,17 @@ bool Week::open()
     CareerRow career;
     bool seasonOver = false;
     const Result result = store.run([&] {
-        store.execute("update datos_jugador set jornada = jornada + 1");
+        sql::career::moveWeekOn(store);
         career = CareerRow::read(store);
         // A season with k friendlies ends when week k + 31 opens, a week the calendar does not
         // have. An empty calendar has not ended.
-        const qint64 lastWeek = store.integer("select max(semana) from calendario");
+        const int lastWeek = sql::career::lastWeekOfCalendar(store);
         if (lastWeek > 0 && career.week == lastWeek + 1) {
             seasonOver = true;
             return;
         }
         Ledger(store).openWeek(career.week, career.club);
-        store.execute("delete from jugar");
+        sql::career::clearLineUps(store);
     });
     if (!result) {
         m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);

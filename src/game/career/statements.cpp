@@ -1,0 +1,185 @@
+#include "statements.h"
+
+#include "store/gamestore.h"
+
+namespace game::sql::career {
+
+void appointCoach(GameStore &store, int club, const QString &nombre, const QString &apellidos)
+{
+    // The board and the public start with a middling confidence in him.
+    store.execute("update entrenadores set nombre = ?, apellidos = ?,"
+                  " confianza_directivos = 5, confianza_publico = 5, puntuacion = 5"
+                  " where idEntrenador = ?",
+                  nombre, apellidos, club);
+}
+
+void clearLastCareer(GameStore &store)
+{
+    store.execute("delete from pretemporada");
+    store.execute("delete from calendario");
+    // A new career starts with an empty market.
+    store.execute("update jugadores set venta = 0 where venta <> 0");
+    store.execute("delete from caja");
+    store.execute("delete from selects");
+    store.execute("delete from jugar");
+}
+
+void writeCareerRow(GameStore &store, const QString &nombre, const QString &apellidos, int club,
+                    const QString &clubCaption)
+{
+    store.execute("update datos_jugador set jornada = 0, nombre = ?, apellidos = ?,"
+                  " idequipo = ?, NombreEquipo = ?",
+                  nombre, apellidos, club, clubCaption);
+}
+
+void setWeek(GameStore &store, int week)
+{
+    store.execute("update datos_jugador set jornada = ?", week);
+}
+
+void moveWeekOn(GameStore &store)
+{
+    store.execute("update datos_jugador set jornada = jornada + 1");
+}
+
+int lastWeekOfCalendar(GameStore &store)
+{
+    return int(store.integer("select max(semana) from calendario"));
+}
+
+void clearLineUps(GameStore &store)
+{
+    store.execute("delete from jugar");
+}
+
+int clubNamed(GameStore &store, const QString &name)
+{
+    return int(store.integer("select idequipo from equipos where NombreEquipo = ?", name));
+}
+
+void writeFriendly(GameStore &store, int slot, int home, int away, const QDate &date)
+{
+    store.execute("insert into pretemporada (idpartido, equipo_local, equipo_visitante, fecha)"
+                  " values (?, ?, ?, ?)",
+                  slot, home, away, date.toString(Qt::ISODate));
+}
+
+std::optional<Friendly> friendly(GameStore &store, int slot)
+{
+    GameStore::Query row = store.query(
+        "select l.NombreEquipo, v.NombreEquipo, p.fecha from pretemporada p"
+        " join equipos l on l.idequipo = p.equipo_local join equipos v on v.idequipo = p.equipo_visitante"
+        " where p.idpartido = ?",
+        slot);
+    if (!row.next())
+        return std::nullopt;
+    return Friendly{row.text(0), row.text(1), QDate::fromString(row.text(2), Qt::ISODate)};
+}
+
+void eraseFriendly(GameStore &store, int slot)
+{
+    store.execute("delete from pretemporada where idpartido = ?", slot);
+}
+
+void clearPreseason(GameStore &store)
+{
+    store.execute("delete from pretemporada");
+}
+
+std::vector<CalendarMatch> friendliesPlanned(GameStore &store)
+{
+    std::vector<CalendarMatch> matches;
+    GameStore::Query rows = store.query("select idpartido, fecha from pretemporada order by idpartido");
+    while (rows.next())
+        matches.push_back({rows.integer(0), rows.text(1)});
+    return matches;
+}
+
+std::vector<CalendarMatch> leagueMatchesOf(GameStore &store, int club)
+{
+    std::vector<CalendarMatch> matches;
+    GameStore::Query rows = store.query(
+        "select idpartido, fecha from liga_asobal"
+        " where pos_equipo_local = (select puesto_anterior from asobal where teams = ?1)"
+        " or pos_equipo_visitante = (select puesto_anterior from asobal where teams = ?1)"
+        " order by jornada, idpartido",
+        club);
+    while (rows.next())
+        matches.push_back({rows.integer(0), rows.text(1)});
+    return matches;
+}
+
+void writeCalendarWeek(GameStore &store, int week, const CalendarMatch &match)
+{
+    store.execute("insert into calendario (semana, idpartido, fecha) values (?, ?, ?)", week, match.idpartido,
+                  match.date);
+}
+
+int playerCount(GameStore &store)
+{
+    return int(store.integer("select count(*) from jugadores"));
+}
+
+void listPlayerUnlessOf(GameStore &store, int player, int poolOne, int poolTwo, int userClub)
+{
+    store.execute("update jugadores set venta = 1 where idjugador = ? and idequipo <> ? and idequipo <> ?"
+                  " and idequipo <> ?",
+                  player, poolOne, poolTwo, userClub);
+}
+
+std::vector<int> finalRanking(GameStore &store)
+{
+    // Points, then fewest goals against, then the club's id for a stable order.
+    std::vector<int> ranking;
+    GameStore::Query table = store.query("select teams from asobal order by Puntos desc, Goles_Contra, teams");
+    while (table.next())
+        ranking.push_back(table.integer(0));
+    return ranking;
+}
+
+void writePlace(GameStore &store, int club, int place)
+{
+    store.execute("update asobal set Puesto_Actual = ?, puesto_anterior = ? where teams = ?", place, place, club);
+}
+
+void emptySeason(GameStore &store)
+{
+    store.execute("delete from calendario");
+    store.execute("update asobal set \"Partidos_ Ganados\" = 0, Partidos_Empatados = 0, Partidos_Perdidos = 0,"
+                  " Goles_Favor = 0, Goles_Contra = 0, Puntos = 0");
+    store.execute("update liga_asobal set goles_equipo_local = 0, goles_equipo_visitante = 0");
+    store.execute("update datos_jugador set jornada = 0");
+    store.execute("delete from caja");
+}
+
+int clubAtPlace(GameStore &store, int place)
+{
+    return int(store.integer("select teams from asobal where puesto_anterior = ?", place));
+}
+
+QString clubName(GameStore &store, int club)
+{
+    return store.text("select NombreEquipo from equipos where idequipo = ?", club);
+}
+
+int placeOf(GameStore &store, int club)
+{
+    return int(store.integer("select puesto_anterior from asobal where teams = ?", club));
+}
+
+void readLine(GameStore &store, int club, SeasonClose::Verdict &verdict)
+{
+    GameStore::Query line = store.query("select \"Partidos_ Ganados\", Partidos_Empatados, Partidos_Perdidos,"
+                                        " Goles_Favor, Goles_Contra, Puntos from asobal where teams = ?",
+                                        club);
+    if (!line.next())
+        return;
+    verdict.won = line.integer(0);
+    verdict.drawn = line.integer(1);
+    verdict.lost = line.integer(2);
+    verdict.goalsFor = line.integer(3);
+    verdict.goalsAgainst = line.integer(4);
+    verdict.points = line.integer(5);
+}
+
+} // namespace game::sql::career
