@@ -11,9 +11,9 @@ void StoreTest::SetUp()
     m_context = std::make_unique<game::Context>(game::Context{*m_store, m_random, m_dialogs});
 }
 
-QString StoreTest::dump(const std::string &table)
+QString dumpTable(game::GameStore &store, const std::string &table)
 {
-    game::GameStore::Query query = m_store->query("select * from " + table + " order by rowid");
+    game::GameStore::Query query = store.query("select * from " + table + " order by rowid");
     QString text;
     while (query.next()) {
         for (int column = 0; column < query.columns(); ++column)
@@ -21,6 +21,11 @@ QString StoreTest::dump(const std::string &table)
         text += QLatin1Char('\n');
     }
     return text;
+}
+
+QString StoreTest::dump(const std::string &table)
+{
+    return dumpTable(*m_store, table);
 }
 
 qint64 StoreTest::count(const std::string &table)

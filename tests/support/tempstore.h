@@ -38,5 +38,8 @@ protected:
     std::unique_ptr<game::Context> m_context;
 };
 
+// A whole table as text, one row a line, its columns each followed by "|".
+QString dumpTable(game::GameStore &store, const std::string &table);
+
 // Reads a whole file, for comparing databases byte by byte.
 QByteArray fileBytes(const QString &path);
