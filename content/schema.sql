@@ -178,3 +178,70 @@ CREATE TABLE jugar (
     Posicion  TEXT    NOT NULL,
     plaza     INTEGER NOT NULL
 );
+
+-- What a career's save file is and where the career stands: one row, written as the career
+-- is saved (a save is a copy of the working file). The season and the career's name are kept
+-- up to date as the career goes on.
+--   etapa: '' no career, planificando (the pre-season's planner), semana (a week open),
+--   jugado (its match recorded), final (the season's last week behind, not closed yet),
+--   veredicto (closed, its orders waiting). eventos: the week's events have run; canal: a
+--   broadcast waiting for the player's OK; taquilla: the week's gate is in the ledger.
+CREATE TABLE partida (
+    formato     INTEGER NOT NULL,
+    carrera     TEXT    NOT NULL DEFAULT '',
+    nombre      TEXT    NOT NULL DEFAULT '',
+    apellidos   TEXT    NOT NULL DEFAULT '',
+    idequipo    INTEGER NOT NULL DEFAULT 0,
+    equipo      TEXT    NOT NULL DEFAULT '',
+    temporada   INTEGER NOT NULL DEFAULT 1,
+    jornada     INTEGER NOT NULL DEFAULT 0,
+    etapa       TEXT    NOT NULL DEFAULT '',
+    eventos     INTEGER NOT NULL DEFAULT 0,
+    canal       TEXT    NOT NULL DEFAULT '',
+    taquilla    INTEGER NOT NULL DEFAULT 0,
+    guardada    TEXT    NOT NULL DEFAULT '',
+    presupuesto INTEGER NOT NULL DEFAULT 0
+);
+INSERT INTO partida (formato) VALUES (1);
+
+-- One row a closed season, written before the close empties it.
+CREATE TABLE historial (
+    temporada      INTEGER PRIMARY KEY,
+    anos           TEXT    NOT NULL,
+    campeon        TEXT    NOT NULL,
+    puesto         INTEGER NOT NULL,
+    puntos         INTEGER NOT NULL,
+    ganados        INTEGER NOT NULL,
+    empatados      INTEGER NOT NULL,
+    perdidos       INTEGER NOT NULL,
+    goles_favor    INTEGER NOT NULL,
+    goles_contra   INTEGER NOT NULL,
+    presupuesto    INTEGER NOT NULL,
+    goleador       TEXT    NOT NULL DEFAULT '',
+    goles_goleador INTEGER NOT NULL DEFAULT 0,
+    fichaje        TEXT    NOT NULL DEFAULT '',
+    importe_fichaje INTEGER NOT NULL DEFAULT 0,
+    venta          TEXT    NOT NULL DEFAULT '',
+    importe_venta  INTEGER NOT NULL DEFAULT 0
+);
+
+-- The goals of each player of the user's club in the club's matches, season by season.
+CREATE TABLE goleadores (
+    temporada INTEGER NOT NULL,
+    idjugador INTEGER NOT NULL,
+    Nombre    TEXT    NOT NULL,
+    Apellidos TEXT    NOT NULL,
+    goles     INTEGER NOT NULL DEFAULT 0,
+    PRIMARY KEY (temporada, idjugador)
+);
+
+-- The players the user's club signed and sold, season by season.
+CREATE TABLE traspasos (
+    temporada INTEGER NOT NULL,
+    jornada   INTEGER NOT NULL,
+    idjugador INTEGER NOT NULL,
+    Nombre    TEXT    NOT NULL,
+    Apellidos TEXT    NOT NULL,
+    tipo      TEXT    NOT NULL,
+    importe   INTEGER NOT NULL
+);

@@ -1,9 +1,48 @@
 #include "career.h"
 
+#include "career/saves.h"
+#include "career/statements.h"
 #include "dialogs.h"
 #include "store/gamestore.h"
 
+#include <QDateTime>
+
+#include <array>
+#include <utility>
+
 namespace game {
+
+namespace {
+
+// How a save names where the career stands.
+constexpr std::array<std::pair<Career::Stage, const char *>, 6> kStages{{
+    {Career::Stage::None, ""},
+    {Career::Stage::Planning, "planificando"},
+    {Career::Stage::Week, "semana"},
+    {Career::Stage::Played, "jugado"},
+    {Career::Stage::SeasonOver, "final"},
+    {Career::Stage::Verdict, "veredicto"},
+}};
+
+QString stageName(Career::Stage stage)
+{
+    for (const auto &[known, name] : kStages) {
+        if (known == stage)
+            return QString::fromLatin1(name);
+    }
+    return {};
+}
+
+Career::Stage stageNamed(const QString &name)
+{
+    for (const auto &[stage, known] : kStages) {
+        if (name == QLatin1String(known))
+            return stage;
+    }
+    return Career::Stage::None;
+}
+
+} // namespace
 
 Career::Career(Context context, QObject *parent)
     : QObject(parent), m_context(context), m_planner(context), m_week(context)
@@ -16,19 +55,29 @@ bool Career::start(const CareerChoice &choice)
 {
     if (!NewCareer(m_context).start(choice))
         return false;
+    // A career is named by the moment it began, which names its save.
+    m_name = QStringLiteral("carrera-") + QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
     m_week.close();
     m_match.reset();
     m_verdict.reset();
-    plan();
-    return true;
+    return plan(1);
 }
 
-void Career::plan()
+bool Career::plan(int season)
 {
+    GameStore &store = m_context.store;
+    const Result written = store.run([&] { sql::career::writeSeason(store, m_name, season); });
+    if (!written) {
+        m_context.dialogs.tell(written.message(), Dialogs::Icon::Exclamation);
+        return false;
+    }
+    m_season = season;
     m_planner.begin();
     m_calendarMade = false;
     m_stage = Stage::Planning;
     emit planningStarted();
+    autosave();
+    return true;
 }
 
 bool Career::beginSeason()
@@ -67,10 +116,16 @@ void Career::runEvents()
     if (!m_week.eventsRun()) {
         m_week.runEvents();
         emit newsArrived(m_week.news());
+        autosave();
     }
     // The broadcast waits for the player's OK, however the events came to run.
     if (m_week.broadcast())
         emit broadcastOffered(*m_week.broadcast());
+}
+
+bool Career::acceptBroadcast()
+{
+    return m_stage == Stage::Week && m_week.acceptBroadcast();
 }
 
 MatchEngine *Career::kickOff()
@@ -107,6 +162,7 @@ bool Career::closeSeason()
         return false; // told; the season stands as it was, to be closed again
     m_stage = Stage::Verdict;
     emit verdictReady(*m_verdict);
+    autosave();
     return true;
 }
 
@@ -115,11 +171,16 @@ bool Career::settleOrders()
     if (m_stage != Stage::Verdict)
         return false;
     SeasonClose(m_context).settleQueue();
+    // The history keeps the budget the season left once its orders are paid.
+    GameStore &store = m_context.store;
+    const int season = m_season;
+    store.attempt([&] {
+        store.run([&] { sql::career::setHistoryBudget(store, season, sql::career::budgetOf(store, userClub(store))); });
+    });
     m_verdict.reset();
     m_week.close();
     emit seasonClosed();
-    plan();
-    return true;
+    return plan(m_season + 1);
 }
 
 bool Career::goOn()
@@ -142,6 +203,74 @@ bool Career::goOn()
     return false;
 }
 
+bool Career::save()
+{
+    if (!m_saves || m_stage == Stage::None)
+        return false;
+    GameStore &store = m_context.store;
+    const sql::career::Standing standing{m_name, m_season, stageName(m_stage), m_week.eventsRun(),
+                                         m_week.broadcast().value_or(QString()), m_week.gatePosted()};
+    Result saved = store.run([&] { sql::career::writeStanding(store, standing); });
+    if (saved)
+        saved = m_saves->save(store, m_name);
+    if (!saved) {
+        // Told once: a full disk would say it every week. The game goes on, and the last save
+        // that went through stays whole.
+        if (!m_saveFailureTold)
+            m_context.dialogs.tell(saved.message(), Dialogs::Icon::Exclamation);
+        m_saveFailureTold = true;
+        return false;
+    }
+    m_saveFailureTold = false;
+    return true;
+}
+
+void Career::autosave()
+{
+    if (m_saves)
+        save();
+}
+
+bool Career::resume()
+{
+    GameStore &store = m_context.store;
+    sql::career::Standing standing;
+    bool calendar = false;
+    if (!store.attempt([&] {
+            standing = sql::career::standing(store);
+            calendar = sql::career::lastWeekOfCalendar(store) > 0;
+        }))
+        return false;
+    const Stage stage = stageNamed(standing.stage);
+    if (stage == Stage::None || standing.career.isEmpty())
+        return false;
+    m_name = standing.career;
+    m_season = standing.season;
+    m_match.reset();
+    m_verdict.reset();
+    m_week.close();
+    switch (stage) {
+    case Stage::Planning:
+        m_planner.resume();
+        m_calendarMade = calendar;
+        break;
+    case Stage::Week:
+    case Stage::Played:
+    case Stage::SeasonOver:
+        m_week.reopen(standing.eventsRun,
+                      standing.channel.isEmpty() ? std::nullopt : std::optional<QString>(standing.channel),
+                      standing.gatePosted, stage == Stage::Played);
+        break;
+    case Stage::Verdict:
+        m_verdict = SeasonClose(m_context).verdict();
+        break;
+    case Stage::None:
+        break;
+    }
+    m_stage = stage;
+    return true;
+}
+
 Result Career::leave()
 {
     m_stage = Stage::None;
@@ -149,6 +278,7 @@ Result Career::leave()
     m_verdict.reset();
     m_week.close();
     m_calendarMade = false;
+    m_name.clear();
     return m_context.store.restore();
 }
 

@@ -15,6 +15,8 @@
 
 namespace game {
 
+class Saves;
+
 // A career's life, from the new career to season after season: the pre-season is planned,
 // week after week opens, its events run, its match is played and recorded, and after the
 // last week the season is closed, its verdict read, its orders settled and the next
@@ -24,6 +26,10 @@ namespace game {
 // Every step says whether it went through. One that failed leaves the career where it
 // stood, the player having been told why, and goOn() tries it again from there: a week that
 // could not open, a season that could not close, orders that could not be settled.
+//
+// With a folder of saves the career saves itself as a week's events have run, as a season
+// closes and as a pre-season is to be planned, and on every way out; a save says where the
+// career stands (its table partida) and resume() takes the career up from there.
 //
 //   Career career(context);
 //   career.start({u"Ana"_s, u"Ruiz"_s, 4, u"PORTLAND SAN ANTONIO"_s});
@@ -54,6 +60,10 @@ public:
     Stage stage() const { return m_stage; }
     // True from a new career until the player leaves it.
     bool inProgress() const { return m_stage != Stage::None; }
+    // The career's own name, which names its save.
+    const QString &name() const { return m_name; }
+    // The career's seasons, from 1.
+    int season() const { return m_season; }
 
     // The planner of this pre-season, while the career is planning.
     Preseason &planner() { return m_planner; }
@@ -77,6 +87,8 @@ public:
     // The week's events, once (the panel's first tick); a broadcast they brought is offered
     // again at each call until the player has acknowledged it.
     void runEvents();
+    // The player's OK on the week's broadcast: its fee is booked, once.
+    bool acceptBroadcast();
 
     // The week's match kicks off: its events first if they have not run, the crowd settled
     // once, the engine made on both sides. The match under way when it has kicked off
@@ -97,6 +109,16 @@ public:
     // a match goes on to the next. False when there was nothing to take up or it failed
     // again.
     bool goOn();
+
+    // Where the career saves itself; none by default (a test, a benchmark).
+    void setSaves(const Saves *saves) { m_saves = saves; }
+    // Saves the career now (a way out of it). False when it could not be saved: the player
+    // has been told, once until a save goes through again.
+    bool save();
+    // Takes up the career a save left in the working file: the planner, the week where it
+    // stood (its events not run again, its wages not charged again) or the verdict. False
+    // when the working file holds no career.
+    bool resume();
 
     // The career is left: the working file goes back to the pristine copy and nothing of the
     // career remains. The store's failure, if any, is returned for the player.
@@ -121,15 +143,20 @@ signals:
 private:
     bool openWeek();
     bool closeSeason();
-    void plan();
+    bool plan(int season);
+    void autosave();
 
     Context m_context;
     Stage m_stage = Stage::None;
+    QString m_name;
+    int m_season = 1;
     Preseason m_planner;
     bool m_calendarMade = false;
     Week m_week;
     std::unique_ptr<MatchEngine> m_match;
     std::optional<SeasonClose::Verdict> m_verdict;
+    const Saves *m_saves = nullptr;
+    bool m_saveFailureTold = false;
 };
 
 } // namespace game

@@ -60,10 +60,34 @@ void Preseason::begin()
         m_manager = career.manager();
         m_club = career.club;
         m_clubName = career.clubName;
+        m_season = career.season;
         sql::career::setWeek(store, 0);
     });
     if (!result)
         m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
+}
+
+void Preseason::resume()
+{
+    GameStore &store = m_context.store;
+    m_dealt = 0;
+    m_slots = {};
+    store.attempt([&] {
+        const CareerRow career = CareerRow::read(store);
+        m_manager = career.manager();
+        m_club = career.club;
+        m_clubName = career.clubName;
+        m_season = career.season;
+        for (int number = 1; number <= kSlots; ++number) {
+            if (const std::optional<sql::career::Friendly> chosen = sql::career::friendly(store, number)) {
+                for (int declined = m_dealt; declined < number - 1; ++declined)
+                    m_slots[std::size_t(declined)].state = Slot::State::Declined;
+                m_slots[std::size_t(number - 1)] =
+                    Slot{Slot::State::Chosen, chosen->home, chosen->away, dateInSeason(chosen->date, m_season)};
+                m_dealt = number;
+            }
+        }
+    });
 }
 
 QStringList Preseason::clubsOf(int countryCode)
@@ -89,7 +113,7 @@ int Preseason::choose(const QString &clubName)
         sql::career::writeFriendly(store, number, atHome ? m_club : rival, atHome ? rival : m_club,
                                    kSlotDates[std::size_t(slot)]);
         if (const std::optional<sql::career::Friendly> written = sql::career::friendly(store, number))
-            filled = Slot{Slot::State::Chosen, written->home, written->away, written->date};
+            filled = Slot{Slot::State::Chosen, written->home, written->away, dateInSeason(written->date, m_season)};
     });
     if (!result) {
         m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);

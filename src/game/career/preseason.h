@@ -40,13 +40,16 @@ public:
         State state = State::Open;
         QString home;
         QString away;
-        QDate date;
+        QDate date;   // as it falls in the career's season
     };
 
     explicit Preseason(Context context) : m_context(context) {}
 
     // Opens the planner for the career in the store: no week is open while it is up.
     void begin();
+    // Takes up a planner a save left: the friendlies already chosen are read back, and a slot
+    // left empty before a chosen one was declined. Writes nothing.
+    void resume();
 
     const QString &manager() const { return m_manager; }
     const QString &clubName() const { return m_clubName; }
@@ -78,6 +81,7 @@ private:
     QString m_manager;
     QString m_clubName;
     int m_club = 0;
+    int m_season = 1;
     int m_dealt = 0;
     std::array<Slot, kSlots> m_slots;
 };

@@ -11,48 +11,93 @@
 
 namespace game {
 
+namespace {
+
+// The verdict as the places stand, and the user's line as the table holds it. Throws on a
+// store failure.
+SeasonClose::Verdict readVerdict(GameStore &store)
+{
+    using namespace sql::career;
+    SeasonClose::Verdict verdict;
+    const CareerRow career = CareerRow::read(store);
+    verdict.season = career.season;
+    verdict.years = career.seasonYears();
+    verdict.champion = clubAtPlace(store, 16);
+    verdict.championName = clubName(store, verdict.champion);
+    verdict.last = clubName(store, clubAtPlace(store, 1));
+    verdict.secondLast = clubName(store, clubAtPlace(store, 2));
+    verdict.userPlace = placeOf(store, career.club);
+    readLine(store, career.club, verdict);
+    return verdict;
+}
+
+} // namespace
+
 std::optional<SeasonClose::Verdict> SeasonClose::close()
 {
     GameStore &store = m_context.store;
-    Verdict line;
+    Verdict ranked;
     const Result closed = store.run([&] {
-        line = verdict(); // the user's line, before the table is emptied
+        const Verdict line = readVerdict(store); // the user's line, before the table is emptied
         // The ranking: points, then fewest goals against, then the club's id for a stable
         // order. The champion takes 16 and the last club 1.
         const std::vector<int> ranking = sql::career::finalRanking(store);
         int place = int(ranking.size()) + 1;
         for (const int club : ranking)
             sql::career::writePlace(store, club, --place);
+        ranked = readVerdict(store);
+        ranked.won = line.won;
+        ranked.drawn = line.drawn;
+        ranked.lost = line.lost;
+        ranked.goalsFor = line.goalsFor;
+        ranked.goalsAgainst = line.goalsAgainst;
+        ranked.points = line.points;
+        writeHistory(ranked);
         sql::career::emptySeason(store);
     });
     if (!closed) {
         m_context.dialogs.tell(closed.message(), Dialogs::Icon::Exclamation);
         return std::nullopt;
     }
-    Verdict ranked = verdict();
-    ranked.won = line.won;
-    ranked.drawn = line.drawn;
-    ranked.lost = line.lost;
-    ranked.goalsFor = line.goalsFor;
-    ranked.goalsAgainst = line.goalsAgainst;
-    ranked.points = line.points;
     return ranked;
+}
+
+void SeasonClose::writeHistory(const Verdict &verdict)
+{
+    // What the season leaves for the career's history, before its tables are emptied: the
+    // place counted the usual way, the champion 1.
+    GameStore &store = m_context.store;
+    sql::career::HistoryRow row;
+    row.season = verdict.season;
+    row.years = verdict.years;
+    row.champion = verdict.championName;
+    row.place = 17 - verdict.userPlace;
+    row.points = verdict.points;
+    row.won = verdict.won;
+    row.drawn = verdict.drawn;
+    row.lost = verdict.lost;
+    row.goalsFor = verdict.goalsFor;
+    row.goalsAgainst = verdict.goalsAgainst;
+    row.budget = sql::career::budgetOf(store, userClub(store));
+    if (const auto scorer = sql::career::topScorer(store, verdict.season)) {
+        row.topScorer = scorer->first;
+        row.topScorerGoals = int(scorer->second);
+    }
+    if (const auto signing = sql::career::dearestMove(store, verdict.season, kSigning)) {
+        row.signing = signing->first;
+        row.signingSum = signing->second;
+    }
+    if (const auto sale = sql::career::dearestMove(store, verdict.season, kSale)) {
+        row.sale = sale->first;
+        row.saleSum = sale->second;
+    }
+    sql::career::writeHistory(store, row);
 }
 
 SeasonClose::Verdict SeasonClose::verdict()
 {
-    GameStore &store = m_context.store;
     Verdict verdict;
-    store.attempt([&] {
-        using namespace sql::career;
-        verdict.champion = clubAtPlace(store, 16);
-        verdict.championName = clubName(store, verdict.champion);
-        verdict.last = clubName(store, clubAtPlace(store, 1));
-        verdict.secondLast = clubName(store, clubAtPlace(store, 2));
-        const int club = userClub(store);
-        verdict.userPlace = placeOf(store, club);
-        readLine(store, club, verdict);
-    });
+    m_context.store.attempt([&] { verdict = readVerdict(m_context.store); });
     return verdict;
 }
 

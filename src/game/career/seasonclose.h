@@ -28,6 +28,8 @@ public:
         QString last;        // place 1: "Desciende:" and "Compra Plaza:"
         QString secondLast;  // place 2
         int userPlace = 0;   // as stored: 16 for the champion, 1 for the last
+        int season = 0;      // the career's season, from 1
+        QString years;       // "2004-2005"
         // The user's line of the final table, read before the table is emptied.
         int won = 0;
         int drawn = 0;
@@ -39,8 +41,13 @@ public:
 
     explicit SeasonClose(Context context) : m_context(context) {}
 
-    // Ranks and empties the season in one transaction. The verdict, or nothing when the
-    // store failed (the player has been told and the season stands as it was).
+    // The kinds of the season's moves the history keeps (traspasos.tipo).
+    static constexpr const char *kSigning = "fichaje";
+    static constexpr const char *kSale = "venta";
+
+    // Ranks the season, writes its history and empties it, in one transaction. The verdict,
+    // or nothing when the store failed (the player has been told and the season stands as it
+    // was).
     std::optional<Verdict> close();
 
     // The verdict as the places stand (the user's line as the table holds it now).
@@ -51,6 +58,8 @@ public:
     int settleQueue();
 
 private:
+    void writeHistory(const Verdict &verdict);
+
     Context m_context;
 };
 

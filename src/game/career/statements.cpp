@@ -182,4 +182,120 @@ void readLine(GameStore &store, int club, SeasonClose::Verdict &verdict)
     verdict.points = line.integer(5);
 }
 
+Standing standing(GameStore &store)
+{
+    Standing standing;
+    GameStore::Query row = store.query("select carrera, temporada, etapa, eventos, canal, taquilla from partida");
+    if (row.next())
+        standing = {row.text(0), row.integer(1), row.text(2), row.integer(3) != 0, row.text(4), row.integer(5) != 0};
+    return standing;
+}
+
+void writeStanding(GameStore &store, const Standing &standing)
+{
+    store.execute("update partida set carrera = ?, temporada = ?, etapa = ?, eventos = ?, canal = ?, taquilla = ?",
+                  standing.career, standing.season, standing.stage, standing.eventsRun ? 1 : 0, standing.channel,
+                  standing.gatePosted ? 1 : 0);
+}
+
+void writeSeason(GameStore &store, const QString &career, int season)
+{
+    store.execute("update partida set carrera = ?, temporada = ?", career, season);
+}
+
+void describeForSave(GameStore &store, const QDateTime &savedAt, int format)
+{
+    store.execute("update partida set formato = ?,"
+                  " (nombre, apellidos, idequipo, equipo, jornada) ="
+                  " (select nombre, apellidos, idequipo, NombreEquipo, jornada from datos_jugador),"
+                  " presupuesto = coalesce((select i.presupuesto from infoteams i join datos_jugador d"
+                  " on d.idequipo = i.idequipo), 0), guardada = ?",
+                  format, savedAt.toString(Qt::ISODateWithMs));
+}
+
+std::optional<SaveRecord> saveRecord(GameStore &store)
+{
+    GameStore::Query row = store.query("select formato, carrera, nombre, apellidos, idequipo, equipo, temporada,"
+                                       " jornada, etapa, guardada, presupuesto from partida");
+    if (!row.next())
+        return std::nullopt;
+    SaveRecord record;
+    record.format = row.integer(0);
+    record.career = row.text(1);
+    record.nombre = row.text(2);
+    record.apellidos = row.text(3);
+    record.club = row.integer(4);
+    record.clubName = row.text(5);
+    record.season = row.integer(6);
+    record.week = row.integer(7);
+    record.stage = row.text(8);
+    record.savedAt = QDateTime::fromString(row.text(9), Qt::ISODateWithMs);
+    record.budget = row.integer64(10);
+    return record;
+}
+
+int gameTablesPresent(GameStore &store, const std::vector<const char *> &tables)
+{
+    int present = 0;
+    for (const char *table : tables)
+        present += int(store.integer("select count(*) from sqlite_master where type = 'table' and name = ?", table));
+    return present;
+}
+
+void writeHistory(GameStore &store, const HistoryRow &row)
+{
+    store.execute("insert or replace into historial (temporada, anos, campeon, puesto, puntos, ganados, empatados,"
+                  " perdidos, goles_favor, goles_contra, presupuesto, goleador, goles_goleador, fichaje,"
+                  " importe_fichaje, venta, importe_venta) values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+                  row.season, row.years, row.champion, row.place, row.points, row.won, row.drawn, row.lost,
+                  row.goalsFor, row.goalsAgainst, row.budget, row.topScorer, row.topScorerGoals, row.signing,
+                  row.signingSum, row.sale, row.saleSum);
+}
+
+void setHistoryBudget(GameStore &store, int season, qint64 budget)
+{
+    store.execute("update historial set presupuesto = ? where temporada = ?", budget, season);
+}
+
+std::vector<HistoryRow> history(GameStore &store)
+{
+    std::vector<HistoryRow> rows;
+    GameStore::Query query = store.query(
+        "select temporada, anos, campeon, puesto, puntos, ganados, empatados, perdidos, goles_favor, goles_contra,"
+        " presupuesto, goleador, goles_goleador, fichaje, importe_fichaje, venta, importe_venta from historial"
+        " order by temporada");
+    while (query.next()) {
+        rows.push_back({query.integer(0), query.text(1), query.text(2), query.integer(3), query.integer(4),
+                        query.integer(5), query.integer(6), query.integer(7), query.integer(8), query.integer(9),
+                        query.integer64(10), query.text(11), query.integer(12), query.text(13),
+                        query.integer64(14), query.text(15), query.integer64(16)});
+    }
+    return rows;
+}
+
+std::optional<std::pair<QString, qint64>> topScorer(GameStore &store, int season)
+{
+    GameStore::Query row = store.query("select Nombre || ' ' || Apellidos, goles from goleadores where temporada = ?"
+                                       " and goles > 0 order by goles desc, idjugador limit 1",
+                                       season);
+    if (!row.next())
+        return std::nullopt;
+    return std::make_pair(row.text(0), row.integer64(1));
+}
+
+std::optional<std::pair<QString, qint64>> dearestMove(GameStore &store, int season, const char *kind)
+{
+    GameStore::Query row = store.query("select Nombre || ' ' || Apellidos, importe from traspasos where temporada = ?"
+                                       " and tipo = ? order by importe desc, rowid limit 1",
+                                       season, kind);
+    if (!row.next())
+        return std::nullopt;
+    return std::make_pair(row.text(0), row.integer64(1));
+}
+
+qint64 budgetOf(GameStore &store, int club)
+{
+    return store.integer("select presupuesto from infoteams where idequipo = ?", club);
+}
+
 } // namespace game::sql::career

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "career/saves.h"
 #include "career/seasonclose.h"
 
 #include <QDate>
+#include <QDateTime>
 #include <QString>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace game {
@@ -67,6 +70,57 @@ QString clubName(GameStore &store, int club);
 int placeOf(GameStore &store, int club);
 // A club's line of the table, into the verdict's fields.
 void readLine(GameStore &store, int club, SeasonClose::Verdict &verdict);
+
+// Where the career stands, as partida keeps it for a save.
+struct Standing
+{
+    QString career;
+    int season = 1;
+    QString stage;
+    bool eventsRun = false;
+    QString channel;   // a broadcast waiting for the player's OK
+    bool gatePosted = false;
+};
+// The career's name and season alone, as a career starts and a season turns.
+void writeSeason(GameStore &store, const QString &career, int season);
+Standing standing(GameStore &store);
+void writeStanding(GameStore &store, const Standing &standing);
+// The describing half of partida, filled from the career as it is at the moment of saving.
+void describeForSave(GameStore &store, const QDateTime &savedAt, int format);
+// What a save's partida says; nothing when it has no row. Throws when it has no such table.
+std::optional<SaveRecord> saveRecord(GameStore &store);
+// How many of the tables the game needs a file holds.
+int gameTablesPresent(GameStore &store, const std::vector<const char *> &tables);
+
+// The season's history.
+struct HistoryRow
+{
+    int season = 0;
+    QString years;
+    QString champion;
+    int place = 0;        // 1 for the champion
+    int points = 0;
+    int won = 0;
+    int drawn = 0;
+    int lost = 0;
+    int goalsFor = 0;
+    int goalsAgainst = 0;
+    qint64 budget = 0;
+    QString topScorer;
+    int topScorerGoals = 0;
+    QString signing;      // the dearest of the season, with its sum
+    qint64 signingSum = 0;
+    QString sale;
+    qint64 saleSum = 0;
+};
+void writeHistory(GameStore &store, const HistoryRow &row);
+void setHistoryBudget(GameStore &store, int season, qint64 budget);
+std::vector<HistoryRow> history(GameStore &store);
+// The user's club's top scorer of a season (the lowest id among equals), and its dearest
+// signing and sale: a name and a number, or nothing.
+std::optional<std::pair<QString, qint64>> topScorer(GameStore &store, int season);
+std::optional<std::pair<QString, qint64>> dearestMove(GameStore &store, int season, const char *kind);
+qint64 budgetOf(GameStore &store, int club);
 
 } // namespace sql::career
 

@@ -68,6 +68,24 @@ bool Week::open()
     return true;
 }
 
+void Week::reopen(bool eventsRun, const std::optional<QString> &broadcast, bool gatePosted, bool played)
+{
+    close();
+    GameStore &store = m_context.store;
+    store.attempt([&] {
+        m_career = CareerRow::read(store);
+        const int lastWeek = sql::career::lastWeekOfCalendar(store);
+        m_number = m_career.week;
+        m_seasonOver = lastWeek > 0 && m_number == lastWeek + 1;
+        if (!m_seasonOver)
+            m_fixture = fixtureOfWeek(store, m_number, m_career.club);
+    });
+    m_eventsRun = eventsRun;
+    m_broadcast = broadcast;
+    m_gatePosted = gatePosted;
+    m_played = played;
+}
+
 void Week::close()
 {
     m_career = {};

@@ -55,6 +55,10 @@ public:
     bool open();
     // The career is left: no week is open any more.
     void close();
+    // Takes up the week the store has open, as a save left it, without writing anything:
+    // whether its events have run, the broadcast waiting for the player's OK, whether its
+    // gate is in the ledger, whether its match has been recorded.
+    void reopen(bool eventsRun, const std::optional<QString> &broadcast, bool gatePosted, bool played);
 
     int number() const { return m_number; }
     bool isOpen() const { return m_number > 0; }
@@ -88,8 +92,10 @@ public:
     // broadcast stays, to be acknowledged again).
     bool acceptBroadcast();
 
-    // The crowd of the week's match once it has kicked off.
+    // The crowd of the week's match once it has kicked off, and whether its takings are in
+    // the ledger.
     const std::optional<Gate::Report> &gate() const { return m_gate; }
+    bool gatePosted() const { return m_gatePosted; }
 
     // What the week's events brought: works that ended, offers answered, a player sold.
     struct News

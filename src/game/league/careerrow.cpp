@@ -5,6 +5,21 @@
 
 namespace game {
 
+namespace {
+constexpr int kFirstYear = 2004;
+} // namespace
+
+QString seasonYears(int season)
+{
+    const int first = kFirstYear + season - 1;
+    return QStringLiteral("%1-%2").arg(first).arg(first + 1);
+}
+
+QDate dateInSeason(const QDate &stored, int season)
+{
+    return stored.isValid() ? stored.addYears(season - 1) : stored;
+}
+
 CareerRow CareerRow::read(GameStore &store)
 {
     return sql::league::careerRow(store);

@@ -2,11 +2,18 @@
 
 #include "context.h"
 
+#include <QDate>
 #include <QString>
 
 namespace game {
 
 class GameStore;
+
+// The years of a career's season: "2004-2005" for the first, "2005-2006" for the second.
+QString seasonYears(int season);
+// A date of the fixtures, stored as seeded for the first season, as it falls in a later one:
+// a year on for each season.
+QDate dateInSeason(const QDate &stored, int season);
 
 // The career row: who manages which club, and which week of the season is open. There is
 // exactly one, and nearly every rule starts from it. Week 0 means no week is open (a career
@@ -22,12 +29,16 @@ struct CareerRow
     QString apellidos;
     int club = 0;
     QString clubName;   // the club as the crest wrote it, in capitals
+    int season = 1;     // the career's seasons, from 1
 
     // "Nombre Apellidos", as titles and lists show the manager.
     QString manager() const { return nombre + QLatin1Char(' ') + apellidos; }
     // True when the name is the user's club, capitals or not: the game tells home from away
     // by the club's name.
     bool isUserClub(const QString &name) const { return !clubName.isEmpty() && name.toUpper() == clubName.toUpper(); }
+
+    // "2004-2005" for the first season, a year on for each after it.
+    QString seasonYears() const { return game::seasonYears(season); }
 
     // The row as stored. Throws on a store failure, for use inside a routine.
     static CareerRow read(GameStore &store);

@@ -31,6 +31,7 @@ std::optional<Fixture> fixtureOfWeek(GameStore &store, int week, int userClub)
         return std::nullopt;
     fixture->week = week;
     fixture->rivalId = fixture->homeId == userClub ? fixture->awayId : fixture->homeId;
+    fixture->date = dateInSeason(fixture->date, sql::league::season(store));
     return fixture;
 }
 

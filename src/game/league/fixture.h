@@ -23,7 +23,7 @@ struct Fixture
     int awayId = 0;
     QString awayName;
     int rivalId = 0;
-    QDate date;
+    QDate date;          // as it falls in the career's season
 
     bool isLeague() const { return type == Type::League; }
     // "LIGA" or "AMISTOSO", as the panel labels the week.

@@ -19,15 +19,22 @@ std::optional<int> firstInteger(GameStore &store, const char *sql, int key)
 CareerRow careerRow(GameStore &store)
 {
     CareerRow row;
-    GameStore::Query career = store.query("select jornada, nombre, apellidos, idequipo, NombreEquipo from datos_jugador");
+    GameStore::Query career = store.query("select d.jornada, d.nombre, d.apellidos, d.idequipo, d.NombreEquipo,"
+                                          " coalesce((select temporada from partida), 1) from datos_jugador d");
     if (career.next()) {
         row.week = career.integer(0);
         row.nombre = career.text(1);
         row.apellidos = career.text(2);
         row.club = career.integer(3);
         row.clubName = career.text(4);
+        row.season = career.integer(5);
     }
     return row;
+}
+
+int season(GameStore &store)
+{
+    return int(store.integer("select coalesce((select temporada from partida), 1)"));
 }
 
 int userClub(GameStore &store)

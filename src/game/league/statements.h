@@ -16,6 +16,8 @@ namespace sql::league {
 
 CareerRow careerRow(GameStore &store);
 int userClub(GameStore &store);
+// The career's season, from 1.
+int season(GameStore &store);
 
 // The fixture the calendar holds for a week; nothing for a week it does not have.
 std::optional<int> matchOfWeek(GameStore &store, int week);

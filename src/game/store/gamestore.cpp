@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QSaveFile>
 
+#include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Statement.h>
@@ -29,8 +30,8 @@ struct GameStore::Prepared
 
 struct GameStore::Connection
 {
-    explicit Connection(const std::string &path)
-        : db(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX)
+    Connection(const std::string &path, bool readOnly)
+        : db(path, (readOnly ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE) | SQLite::OPEN_NOMUTEX)
     {
     }
 
@@ -115,13 +116,20 @@ Result GameStore::open()
     return openConnection();
 }
 
-Result GameStore::openConnection()
+Result GameStore::openConnection(bool readOnly)
 {
     try {
         // One thread uses the connection, so SQLite's own locking is not needed.
-        auto connection = std::make_unique<Connection>(m_workingPath.toStdString());
-        connection->db.exec("PRAGMA journal_mode=WAL");
-        connection->db.exec("PRAGMA synchronous=NORMAL");
+        auto connection = std::make_unique<Connection>(m_workingPath.toStdString(), readOnly);
+        if (readOnly) {
+            // A file that is not a database fails here, not at the first statement.
+            SQLite::Statement check(connection->db, "PRAGMA quick_check");
+            if (!check.executeStep() || check.getColumn(0).getString() != "ok")
+                throw SQLite::Exception("the file fails SQLite's quick check");
+        } else {
+            connection->db.exec("PRAGMA journal_mode=WAL");
+            connection->db.exec("PRAGMA synchronous=NORMAL");
+        }
         connection->db.exec("PRAGMA foreign_keys=OFF");
         registerUnicodeLike(connection->db.getHandle());
         m_connection = std::move(connection);
@@ -149,11 +157,47 @@ void GameStore::ensureOpen()
 
 Result GameStore::restore()
 {
+    return replaceWith(m_pristinePath);
+}
+
+Result GameStore::replaceWith(const QString &source)
+{
     close();
-    Result replaced = replaceFile(m_pristinePath, m_workingPath);
-    QFile::remove(m_workingPath + QStringLiteral("-wal"));
-    QFile::remove(m_workingPath + QStringLiteral("-shm"));
-    return replaced;
+    // The logs go first: a kill between the rename and their removal would leave the old
+    // file's log beside the new file, and SQLite would replay it into a file it never belonged to.
+    for (const char *log : {"-wal", "-shm", "-journal"}) {
+        const QString path = m_workingPath + QLatin1String(log);
+        if (QFile::exists(path) && !QFile::remove(path))
+            return Result::failure(QObject::tr("No se puede borrar el registro %1 de la base de datos de la partida.")
+                                       .arg(QFileInfo(path).fileName()));
+    }
+    return replaceFile(source, m_workingPath);
+}
+
+Result GameStore::openReadOnly()
+{
+    close();
+    if (!QFileInfo(m_workingPath).isFile())
+        return Result::failure(QObject::tr("No existe el archivo %1.").arg(m_workingPath));
+    return openConnection(true);
+}
+
+Result GameStore::backupTo(const QString &target)
+{
+    try {
+        ensureOpen();
+        SQLite::Database copy(target.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        {
+            SQLite::Backup backup(copy, m_connection->db);
+            backup.executeStep(); // every page at once
+        }
+        // A copy on disk before anyone renames it into place.
+        copy.exec("PRAGMA journal_mode=DELETE");
+        return Result::success();
+    } catch (const std::exception &e) {
+        return Result::failure(QObject::tr("No se ha podido copiar la partida en %1.\n(%2)")
+                                   .arg(target, QString::fromUtf8(e.what())));
+    }
 }
 
 GameStore::Prepared &GameStore::start(std::string_view sql, std::span<const Value> values)

@@ -76,10 +76,23 @@ public:
     bool isOpen() const { return m_connection != nullptr; }
 
     // Puts the pristine copy in place of the working file, atomically: the connection is
-    // closed, the copy is written beside the working file under a temporary name, flushed and
-    // renamed over it, and any log files left beside it are removed. The store stays closed
-    // and reopens on its next use.
+    // closed, any log files left beside the working file are removed (a log of the old file
+    // must never be replayed into the new one), the copy is written beside it under a
+    // temporary name, flushed and renamed over it. The store stays closed and reopens on its
+    // next use.
     Result restore();
+    // The same with another file in place of the pristine copy (a career's save).
+    Result replaceWith(const QString &source);
+
+    // Writes a whole copy of the working database as it stands in the connection, committed
+    // changes only, into a new file at target (which must not exist), through SQLite's online
+    // backup, flushed to disk before it returns.
+    Result backupTo(const QString &target);
+
+    // Opens the working file for reading only, as found (never made from the pristine copy):
+    // for looking into a file that may not be a database at all. Fails on a file SQLite cannot
+    // read or that fails SQLite's quick check.
+    Result openReadOnly();
 
     const QString &workingPath() const { return m_workingPath; }
     const QString &pristinePath() const { return m_pristinePath; }
@@ -192,7 +205,7 @@ private:
 
     struct Connection;
     void ensureOpen();
-    Result openConnection();
+    Result openConnection(bool readOnly = false);
 
     QString m_workingPath;
     QString m_pristinePath;
