@@ -6,7 +6,6 @@
 #include "career/session.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -36,11 +35,11 @@ int main(int argc, char *argv[])
     QApplication::setApplicationDisplayName(QStringLiteral("Zarpazo"));
     theme::apply(app);
 
-    // The career lives in the player's data folder and is used as found.
+    // The working file and the careers' saves live in the player's data folder, which one
+    // copy of the game holds at a time.
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    QDir().mkpath(dataFolder);
     ui::MessageBoxDialogs dialogs;
-    game::Session session(dataFolder + QStringLiteral("/balonmano.mdb"), pristineDatabase(), dialogs);
+    game::Session session(dataFolder, pristineDatabase(), dialogs);
     if (game::Result opened = session.open(); !opened) {
         QMessageBox::critical(nullptr, QStringLiteral("Zarpazo"), opened.message());
         return 1;
@@ -51,8 +50,13 @@ int main(int argc, char *argv[])
     window.resize(1280, 720);
     window.setMinimumSize(1024, 640);
     app::Navigator navigator(session.context(), window);
+    navigator.setSaves(&session.saves());
     QObject::connect(&navigator, &app::Navigator::finished, &app, &QApplication::quit);
     navigator.showSplash();
     window.show();
-    return app.exec();
+    const int status = app.exec();
+    // The run ends through a restore, so the next one starts clean.
+    if (game::Result closed = session.close(); !closed)
+        QMessageBox::warning(nullptr, QStringLiteral("Zarpazo"), closed.message());
+    return status;
 }

@@ -1,7 +1,9 @@
 #include "navigator.h"
 
+#include "career/saves.h"
 #include "dialogs.h"
 
+#include <QCloseEvent>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QMainWindow>
@@ -45,6 +47,26 @@ Navigator::Navigator(game::Context context, QMainWindow &window)
     });
     connect(&m_career, &game::Career::seasonClosed, this, [this] { close(kVerdict); });
     connect(&m_career, &game::Career::planningStarted, this, [this] { open(kPlanner); });
+    m_window.installEventFilter(this);
+}
+
+void Navigator::setSaves(const game::Saves *saves)
+{
+    m_saves = saves;
+    m_career.setSaves(saves);
+}
+
+bool Navigator::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == &m_window && event->type() == QEvent::Close && !m_quitting) {
+        if (mayLeave()) {
+            quitGame();
+        } else {
+            event->ignore();
+        }
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 Navigator::~Navigator()
@@ -202,10 +224,23 @@ void Navigator::matchOver()
         showPanel();
 }
 
+bool Navigator::mayLeave()
+{
+    if (!m_career.inProgress())
+        return true;
+    if (!m_context.dialogs.ask(tr("Salir"), tr("¿Salir de la partida? La carrera queda guardada y podrás "
+                                               "continuarla desde el menú.")))
+        return false;
+    m_career.save();
+    return true;
+}
+
 void Navigator::leaveCareer()
 {
-    // Leaving the career throws it away and closes every screen of it; a new career gets a
-    // freshly opened panel.
+    // Leaving the career (saved first) closes every screen of it and puts the pristine copy
+    // back; a new career gets a freshly opened panel.
+    if (!mayLeave())
+        return;
     if (game::Result restored = m_career.leave(); !restored)
         m_context.dialogs.tell(restored.message(), game::Dialogs::Icon::Exclamation);
     for (const QString &name : m_loaded.keys())
@@ -215,10 +250,71 @@ void Navigator::leaveCareer()
 
 void Navigator::quitGame()
 {
-    // Leaving the game throws the career away: the working file goes back to the original.
+    // Leaving the game (the career saved first): the working file goes back to the original.
+    if (m_quitting || !mayLeave())
+        return;
+    m_quitting = true;
     if (game::Result restored = m_career.leave(); !restored)
         m_context.dialogs.tell(restored.message(), game::Dialogs::Icon::Exclamation);
     emit finished();
+}
+
+void Navigator::continueCareer(const QString &path)
+{
+    if (!m_saves)
+        return;
+    QString file = path;
+    if (file.isEmpty()) {
+        const std::optional<game::SaveRecord> latest = m_saves->latest();
+        if (!latest) {
+            m_context.dialogs.tell(tr("No hay ninguna carrera guardada. Empieza una nueva desde el menú."),
+                                   game::Dialogs::Icon::Information);
+            return;
+        }
+        file = latest->path;
+    }
+    // A career in progress is kept before another takes its place.
+    if (m_career.inProgress())
+        m_career.save();
+    if (const game::Result loaded = m_saves->load(m_context.store, file); !loaded) {
+        m_context.dialogs.tell(loaded.message(), game::Dialogs::Icon::Exclamation);
+        return;
+    }
+    if (!m_career.resume()) {
+        m_context.dialogs.tell(tr("La partida no se ha podido continuar."), game::Dialogs::Icon::Exclamation);
+        return;
+    }
+    for (const QString &name : m_loaded.keys()) {
+        if (name != kMenu)
+            unload(name);
+    }
+    showCareer();
+}
+
+void Navigator::showCareer()
+{
+    using Stage = game::Career::Stage;
+    switch (m_career.stage()) {
+    case Stage::None:
+        showMenu();
+        return;
+    case Stage::Planning:
+        open(kPlanner);
+        return;
+    case Stage::Verdict:
+        close(kMenu);
+        if (!open(kVerdict))
+            verdictRead();
+        return;
+    case Stage::Week:
+    case Stage::Played:
+    case Stage::SeasonOver:
+        break;
+    }
+    showPanel();
+    close(kMenu);
+    if (m_career.week().broadcast())
+        open(kBroadcast);
 }
 
 } // namespace app

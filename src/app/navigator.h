@@ -82,6 +82,9 @@ public:
 
     game::Context context() const { return m_context; }
     game::Career &career() { return m_career; }
+    // Where careers are saved; none by default (a test), when the career is not kept.
+    void setSaves(const game::Saves *saves);
+    const game::Saves *saves() const { return m_saves; }
     QMainWindow &window() const { return m_window; }
 
     // How a web page is opened; the system's browser unless a test says otherwise.
@@ -98,24 +101,37 @@ public:
     void matchOver();
     void verdictRead();
     void goOn();
+    // Loads a saved career (the latest with no path) and shows it where it stood.
+    void continueCareer(const QString &path = {});
     void leaveCareer();
     void quitGame();
+    // Asks first when a career is in progress, which is then saved; false when the player
+    // stays. Every way out of a career or of the game goes through it.
+    bool mayLeave();
 
 signals:
     // The player has left the game; the working file has been restored.
     void finished();
+
+protected:
+    // The main window's frame closed by the player is a way out of the game like the menu's.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void unload(const QString &name);
     // Closes what a week leaves open before the next one opens.
     void closeWeekScreens();
     void showTopPage();
+    // Brings up the screen for where the career stands.
+    void showCareer();
 
     game::Context m_context;
     QMainWindow &m_window;
     QStackedWidget *m_stack;
     std::function<void(const QUrl &)> m_openUrl;
     game::Career m_career;
+    const game::Saves *m_saves = nullptr;
+    bool m_quitting = false;
     QHash<QString, ScreenKind> m_kinds;
     QHash<QString, QPointer<QWidget>> m_loaded;
     // The pages opened one over another, the one on show last.

@@ -148,6 +148,7 @@ TEST_F(WeekScreens, leavingTheCareerRestoresTheFileAndANewCareerGetsAFreshPanel)
     m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager"))->runWeekEvents();
 
     click(QStringLiteral("cmdVOLVER"));
+    m_dialogs.answer({true}); // "¿Salir de la partida? ..." Yes
     click(QStringLiteral("Command4"));
     EXPECT_EQ(m_navigator->current()->objectName(), QStringLiteral("Form1"));
     EXPECT_EQ(find(QStringLiteral("Panel_Control_Manager")), nullptr);

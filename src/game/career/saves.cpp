@@ -15,13 +15,6 @@ namespace game {
 
 namespace {
 
-// The tables a save must hold to be played on: every table of the game.
-const std::vector<const char *> kGameTables{
-    "datos_jugador", "equipos", "jugadores", "lesiones", "infoteams",  "estadios",  "entradas",
-    "televisiones",  "entrenadores", "asobal", "liga_asobal", "miequipo", "pretemporada", "calendario",
-    "caja",          "selects", "jugar",     "partida", "historial",  "goleadores", "traspasos",
-};
-
 bool renameOver(const QString &from, const QString &to)
 {
     // QFile::rename does not replace; rename(2) does, in one step.
@@ -88,21 +81,22 @@ std::variant<SaveRecord, QString> Saves::inspect(const QString &path)
         return sqlite ? damaged : notASave;
     }
     std::optional<SaveRecord> record;
-    int tables = 0;
+    bool whole = false;
     const bool read = file.attempt([&] {
-        tables = sql::career::gameTablesPresent(file, kGameTables);
-        if (tables == int(kGameTables.size()) || sql::career::gameTablesPresent(file, {"partida"}) == 1)
+        if (sql::career::hasStanding(file))
             record = sql::career::saveRecord(file);
+        whole = sql::career::holdsTheGame(file);
     });
     if (!read)
         return damaged;
     if (!record || record->career.isEmpty())
         return notASave;
+    // A newer game may have changed the tables; it says so before anything else is judged.
     if (record->format > kFormat) {
         return QObject::tr("La partida %1 se guardó con una versión más nueva de Zarpazo y no se puede cargar.")
             .arg(name);
     }
-    if (tables != int(kGameTables.size()))
+    if (!whole)
         return damaged;
     record->path = path;
     return *record;

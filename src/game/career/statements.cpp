@@ -234,12 +234,36 @@ std::optional<SaveRecord> saveRecord(GameStore &store)
     return record;
 }
 
-int gameTablesPresent(GameStore &store, const std::vector<const char *> &tables)
+namespace {
+
+// Every table of the game: a file without one of them cannot be played on.
+const char *const kGameTables[] = {
+    "datos_jugador", "equipos",      "jugadores", "lesiones",    "infoteams",  "estadios",     "entradas",
+    "televisiones",  "entrenadores", "asobal",    "liga_asobal", "miequipo",   "pretemporada", "calendario",
+    "caja",          "selects",      "jugar",     "partida",     "historial",  "goleadores",   "traspasos",
+};
+
+bool hasTable(GameStore &store, const char *table)
 {
-    int present = 0;
-    for (const char *table : tables)
-        present += int(store.integer("select count(*) from sqlite_master where type = 'table' and name = ?", table));
-    return present;
+    return store.integer("select count(*) from sqlite_master where type = 'table' and name = ?", table) == 1;
+}
+
+} // namespace
+
+bool holdsTheGame(GameStore &store)
+{
+    if (store.text("pragma quick_check") != QLatin1String("ok"))
+        return false;
+    for (const char *table : kGameTables) {
+        if (!hasTable(store, table))
+            return false;
+    }
+    return true;
+}
+
+bool hasStanding(GameStore &store)
+{
+    return hasTable(store, "partida");
 }
 
 void writeHistory(GameStore &store, const HistoryRow &row)

@@ -89,8 +89,10 @@ void writeStanding(GameStore &store, const Standing &standing);
 void describeForSave(GameStore &store, const QDateTime &savedAt, int format);
 // What a save's partida says; nothing when it has no row. Throws when it has no such table.
 std::optional<SaveRecord> saveRecord(GameStore &store);
-// How many of the tables the game needs a file holds.
-int gameTablesPresent(GameStore &store, const std::vector<const char *> &tables);
+// True when the file holds every table of the game; false for a file SQLite finds broken.
+bool holdsTheGame(GameStore &store);
+// True when the file has a table partida (what a save of the game has).
+bool hasStanding(GameStore &store);
 
 // The season's history.
 struct HistoryRow
