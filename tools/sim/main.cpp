@@ -2,7 +2,7 @@
 // call, and prints one JSON line with what happened.
 //
 //   zarpazo-sim --data-dir DIR [--seed S] [--club ID] [--friendlies K] [--weeks N]
-//               [--policy quiet|busy] [--seasons N]
+//               [--policy quiet|busy] [--seasons N] [--save FILE] [--load FILE]
 //
 // A quiet manager only plays; a busy one also orders stadium works, raises the ticket price
 // before home matches, takes every broadcast and works the market. With --seasons the career
@@ -10,7 +10,13 @@
 // the report gains one object per season.
 //
 // DIR/balonmano.mdb is restored from the pristine copy first and left there for inspection.
+// --load continues the career a save holds (its club and where it stood) instead of starting
+// one; --save writes the career's save at the end. The report's "history" holds the rows of
+// the career's history, one a closed season.
 
+#include "career/saves.h"
+#include "career/statements.h"
+#include "league/careerrow.h"
 #include "dialogs.h"
 #include "sim/autoseason.h"
 #include "random.h"
@@ -20,6 +26,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -76,7 +83,11 @@ int main(int argc, char *argv[])
                                     QStringLiteral("quiet|busy"), QStringLiteral("quiet"));
     const QCommandLineOption seasons(QStringLiteral("seasons"), QStringLiteral("Whole seasons to play, 1 or more."),
                                      QStringLiteral("N"), QStringLiteral("1"));
-    parser.addOptions({dataDir, seed, club, friendlies, weeks, pristine, policy, seasons});
+    const QCommandLineOption save(QStringLiteral("save"), QStringLiteral("Writes the career's save here at the end."),
+                                  QStringLiteral("FILE"));
+    const QCommandLineOption load(QStringLiteral("load"), QStringLiteral("Continues the career saved here."),
+                                  QStringLiteral("FILE"));
+    parser.addOptions({dataDir, seed, club, friendlies, weeks, pristine, policy, seasons, save, load});
     parser.process(app);
     if (!parser.isSet(dataDir))
         return fail(QStringLiteral("--data-dir is required"));
@@ -113,8 +124,15 @@ int main(int argc, char *argv[])
     game::Context context{store, *random, dialogs};
 
     game::AutoSeason season(context, {clubId, friendlyCount, chosenPolicy});
-    if (!season.begin())
+    if (parser.isSet(load)) {
+        const game::Saves saves(QFileInfo(parser.value(load)).absolutePath());
+        if (game::Result loaded = saves.load(store, parser.value(load)); !loaded)
+            return fail(loaded.message());
+        if (!season.resume())
+            return fail(season.failure());
+    } else if (!season.begin()) {
         return fail(season.failure());
+    }
     QJsonArray bySeason;
     for (int played = 1; played <= seasonCount; ++played) {
         while ((weekLimit == 0 || season.totals().weeks < weekLimit) && season.playWeek()) {
@@ -137,10 +155,44 @@ int main(int argc, char *argv[])
         });
     }
 
+    if (parser.isSet(save)) {
+        const game::Saves saves(QFileInfo(parser.value(save)).absolutePath());
+        season.career().setSaves(&saves);
+        if (!season.career().save(parser.value(save)))
+            return fail(QStringLiteral("the career could not be saved at %1").arg(parser.value(save)));
+        season.career().setSaves(nullptr);
+    }
+
+    QJsonArray history;
+    store.attempt([&] {
+        for (const game::sql::career::HistoryRow &row : game::sql::career::history(store)) {
+            history.append(QJsonObject{
+                {QStringLiteral("season"), row.season},
+                {QStringLiteral("years"), row.years},
+                {QStringLiteral("champion"), row.champion},
+                {QStringLiteral("place"), row.place},
+                {QStringLiteral("points"), row.points},
+                {QStringLiteral("won"), row.won},
+                {QStringLiteral("drawn"), row.drawn},
+                {QStringLiteral("lost"), row.lost},
+                {QStringLiteral("goals_for"), row.goalsFor},
+                {QStringLiteral("goals_against"), row.goalsAgainst},
+                {QStringLiteral("budget"), double(row.budget)},
+                {QStringLiteral("top_scorer"), row.topScorer},
+                {QStringLiteral("top_scorer_goals"), row.topScorerGoals},
+                {QStringLiteral("signing"), row.signing},
+                {QStringLiteral("signing_sum"), double(row.signingSum)},
+                {QStringLiteral("sale"), row.sale},
+                {QStringLiteral("sale_sum"), double(row.saleSum)},
+            });
+        }
+    });
+
     const game::AutoSeason::Totals &totals = season.totals();
     const QJsonObject report{
         {QStringLiteral("seasons"), seasonCount},
         {QStringLiteral("season_results"), bySeason},
+        {QStringLiteral("history"), history},
         {QStringLiteral("weeks"), totals.weeks},
         {QStringLiteral("matches"), totals.matches},
         {QStringLiteral("goals_for"), totals.goalsFor},
@@ -156,7 +208,7 @@ int main(int argc, char *argv[])
         {QStringLiteral("sales"), totals.sales},
         {QStringLiteral("renewals"), totals.renewals},
         {QStringLiteral("dismissals"), totals.dismissals},
-        {QStringLiteral("budget"), double(game::Ledger(store).budget(clubId))},
+        {QStringLiteral("budget"), double(game::Ledger(store).budget(game::CareerRow::current(context).club))},
         {QStringLiteral("statements"), double(store.statementsRun())},
         {QStringLiteral("messages"), dialogs.told},
         {QStringLiteral("wall_ms"), double(clock.nsecsElapsed()) / 1e6},

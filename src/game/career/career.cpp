@@ -203,7 +203,7 @@ bool Career::goOn()
     return false;
 }
 
-bool Career::save()
+bool Career::save(const QString &path)
 {
     if (!m_saves || m_stage == Stage::None)
         return false;
@@ -212,7 +212,7 @@ bool Career::save()
                                          m_week.broadcast().value_or(QString()), m_week.gatePosted()};
     Result saved = store.run([&] { sql::career::writeStanding(store, standing); });
     if (saved)
-        saved = m_saves->save(store, m_name);
+        saved = path.isEmpty() ? m_saves->save(store, m_name) : m_saves->saveAs(store, path);
     if (!saved) {
         // Told once: a full disk would say it every week. The game goes on, and the last save
         // that went through stays whole.

@@ -112,9 +112,10 @@ public:
 
     // Where the career saves itself; none by default (a test, a benchmark).
     void setSaves(const Saves *saves) { m_saves = saves; }
-    // Saves the career now (a way out of it). False when it could not be saved: the player
-    // has been told, once until a save goes through again.
-    bool save();
+    // Saves the career now (a way out of it), in its file of the saves' folder or at the
+    // path given. False when it could not be saved: the player has been told, once until a
+    // save goes through again.
+    bool save(const QString &path = {});
     // Takes up the career a save left in the working file: the planner, the week where it
     // stood (its events not run again, its wages not charged again) or the verdict. False
     // when the working file holds no career.

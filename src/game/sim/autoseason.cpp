@@ -62,10 +62,23 @@ bool AutoSeason::begin()
     return planPreseason();
 }
 
+bool AutoSeason::resume()
+{
+    if (!m_career.resume()) {
+        m_failure = QStringLiteral("the working file holds no career");
+        return false;
+    }
+    m_options.club = m_career.week().career().club;
+    if (m_options.club == 0)
+        m_context.store.attempt([&] { m_options.club = CareerRow::read(m_context.store).club; });
+    return true;
+}
+
 bool AutoSeason::planPreseason()
 {
     Preseason &planner = m_career.planner();
-    for (int slot = 0; slot < Preseason::kSlots; ++slot) {
+    // A planner taken up from a save goes on from the first slot not yet dealt with.
+    for (int slot = planner.slotsDealt(); slot < Preseason::kSlots; ++slot) {
         if (slot < m_options.friendlies) {
             // A club of another country, drawn: country 2 to 18, then a club of its list.
             const QStringList clubs = planner.clubsOf(1 + m_context.random.draw(17));
@@ -80,6 +93,8 @@ bool AutoSeason::planPreseason()
 
 bool AutoSeason::closeSeason(SeasonSummary *summary)
 {
+    if (m_career.stage() == Career::Stage::SeasonOver)
+        m_career.goOn();
     if (!m_career.verdict()) {
         m_failure = QStringLiteral("the season is not over");
         return false;
@@ -102,8 +117,17 @@ bool AutoSeason::closeSeason(SeasonSummary *summary)
 
 bool AutoSeason::playWeek()
 {
-    if (m_career.stage() == Career::Stage::Planning && !m_career.beginSeason()) {
-        m_failure = QStringLiteral("the season could not be planned");
+    if (m_career.stage() == Career::Stage::Planning) {
+        if (m_career.planner().slotsDealt() < Preseason::kSlots)
+            planPreseason();
+        if (!m_career.beginSeason()) {
+            m_failure = QStringLiteral("the season could not be planned");
+            return false;
+        }
+    }
+    // A week whose match was recorded but the next could not open (a save taken then).
+    if (m_career.stage() == Career::Stage::Played && !m_career.goOn()) {
+        m_failure = QStringLiteral("the week could not open");
         return false;
     }
     if (m_career.stage() != Career::Stage::Week)

@@ -62,6 +62,9 @@ public:
     // Starts the career and plans the pre-season: the first friendlies against clubs drawn
     // from the other countries, the rest declined. False when that failed.
     bool begin();
+    // Takes up the career a save left in the working file, where it stood (its club is the
+    // saved career's). False when the file holds no career.
+    bool resume();
 
     // What a closed season leaves for the record.
     struct SeasonSummary
@@ -73,7 +76,8 @@ public:
         int goalsAgainst = 0;
         qint64 budget = 0;    // the club's budget once every order has been settled
     };
-    // After the season's last week (its close has ranked the league): the verdict is read,
+    // After the season's last week (its close has ranked the league; a close that failed is
+    // tried again): the verdict is read,
     // every order settled, and the next pre-season planned, its friendlies drawn again.
     // False when that failed.
     bool closeSeason(SeasonSummary *summary = nullptr);
