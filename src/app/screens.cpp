@@ -171,7 +171,7 @@ void registerScreens(Navigator &nav)
              [](Navigator &, QWidget *callUp) { static_cast<ui::CallUpScreen *>(callUp)->reload(); }});
 
     nav.add(QStringLiteral("Tactica"),
-            {Mode::Page, false, true,
+            {Mode::Page, true, true,
              [](Navigator &navigator) {
                  return closing(navigator, new ui::TacticsScreen(navigator.context()), QStringLiteral("Tactica"));
              },
@@ -274,7 +274,7 @@ void registerScreens(Navigator &nav)
              }});
 
     nav.add(QStringLiteral("Juveniles"),
-            {Mode::Page, false, false,
+            {Mode::Page, true, false,
              [](Navigator &navigator) {
                  auto *youth = new ui::YouthScreen(navigator.context());
                  // A youth is offered for as a listed player: from the clause and wage he asks.
@@ -289,7 +289,7 @@ void registerScreens(Navigator &nav)
     // The offer for a player picked on a list, opened about {"player": id, "listed": bool}, or
     // about the bare id of a player who is not on the market.
     nav.add(QStringLiteral("Fichar_Jugadores"),
-            {Mode::Page, false, false,
+            {Mode::Page, false, true,
              [](Navigator &navigator) {
                  return closing(navigator, new ui::OfferScreen(navigator.context()), QStringLiteral("Fichar_Jugadores"));
              },
@@ -367,7 +367,7 @@ void registerScreens(Navigator &nav)
     // The season's verdict, once its close has ranked the league; reading it settles the
     // orders still waiting and leads to the next pre-season.
     nav.add(QStringLiteral("Finall"),
-            {Mode::Dialog, false, false,
+            {Mode::Dialog, false, true,
              [](Navigator &navigator) -> QWidget * {
                  if (!navigator.career().verdict())
                      return nullptr;
