@@ -4,6 +4,7 @@
 #include "dialogs.h"
 #include "stadium/ledger.h"
 #include "store/gamestore.h"
+#include "transfers/terms.h"
 
 #include <QHash>
 #include <QObject>
@@ -17,22 +18,6 @@ namespace game {
 namespace {
 
 constexpr qint64 kLargestSum = std::numeric_limits<qint32>::max();
-
-// The digits of a money box, as the box keeps them ("1.000 €" is 1000); an empty box is 1 €.
-std::optional<qint64> digitsOf(const QString &box)
-{
-    QString digits;
-    for (const QChar c : box) {
-        if (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
-            digits += c;
-    }
-    if (digits.isEmpty())
-        return 1;
-    // More digits than any sum the game takes.
-    if (digits.size() > 10)
-        return std::nullopt;
-    return digits.toLongLong();
-}
 
 // The order that moves the player, as it is stored with the offer: numbers only, written by
 // the game itself.
@@ -77,7 +62,7 @@ bool applyOrder(GameStore &store, const QString &order)
 std::optional<Offers::Terms> Offers::termsFrom(const QString &oferta, const QString &clausula, const QString &ficha,
                                                const QString &years, Dialogs &dialogs)
 {
-    const std::optional<qint64> sums[] = {digitsOf(oferta), digitsOf(clausula), digitsOf(ficha)};
+    const std::optional<qint64> sums[] = {sumOfBox(oferta), sumOfBox(clausula), sumOfBox(ficha)};
     for (const std::optional<qint64> &sum : sums) {
         if (!sum || *sum > kLargestSum) {
             dialogs.tell(QObject::tr("Las cantidades no pueden pasar de 2147483647 €. Corrige la oferta."),
@@ -85,13 +70,11 @@ std::optional<Offers::Terms> Offers::termsFrom(const QString &oferta, const QStr
             return std::nullopt;
         }
     }
-    bool number = false;
-    const int typedYears = years.trimmed().toInt(&number);
     Terms terms;
     terms.oferta = int(*sums[0]);
     terms.clausula = int(*sums[1]);
     terms.ficha = int(*sums[2]);
-    terms.years = number && typedYears >= 1 && typedYears <= 6 ? typedYears : 1;
+    terms.years = yearsOfBox(years);
     return terms;
 }
 
