@@ -4,8 +4,8 @@
 #include "dialogs.h"
 #include "money.h"
 #include "random.h"
-#include "stadium/entradas.h"
 #include "stadium/ledger.h"
+#include "stadium/statements.h"
 #include "store/gamestore.h"
 
 #include <optional>
@@ -68,8 +68,8 @@ Gate::Report Gate::draw(const Fixture &fixture)
     // The prices are always the user's own, also in the rival's stadium.
     qint64 ticketPrice = 0;
     qint64 hoardingPrice = 0;
-    store.attempt([&] { ticketPrice = Entradas::value(store, Entrada::TicketPrice); });
-    store.attempt([&] { hoardingPrice = Entradas::value(store, Entrada::BoardPrice); });
+    store.attempt([&] { ticketPrice = sql::stadium::entrada(store, Entrada::TicketPrice); });
+    store.attempt([&] { hoardingPrice = sql::stadium::entrada(store, Entrada::BoardPrice); });
 
     report.fullHouse = isBigMatch(store, fixture.homeId, fixture.awayId);
     if (report.fullHouse) {

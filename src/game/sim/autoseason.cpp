@@ -197,27 +197,25 @@ void AutoSeason::orderCheapestWorks()
     Works works(m_context);
     const Works::Screen screen = works.screen();
     QSet<int> busyGroups;
-    for (const Works::UnderWay &work : screen.underWay) {
-        if (const std::optional<Works::Group> group = Works::groupOfKey(work.key))
-            busyGroups.insert(static_cast<int>(*group));
-    }
-    QStringList boxes;
+    for (const Works::UnderWay &work : screen.underWay)
+        busyGroups.insert(static_cast<int>(Works::groupOf(work.item)));
+    std::vector<Works::Choice> choices;
     for (const Works::Group group :
          {Works::Group::Seats, Works::Group::Parking, Works::Group::Equipment, Works::Group::Services}) {
         if (busyGroups.contains(static_cast<int>(group)))
             continue;
-        // The cheapest work of the group on offer; among equal prices the first the screen lists.
+        // The cheapest work of the group on offer; among equal prices the first the catalogue lists.
         const Works::Order *cheapest = nullptr;
         for (const Works::Order &order : Works::catalogue()) {
-            if (order.group == group && screen.enabledBoxes.contains(QLatin1String(order.box))
+            if (Works::groupOf(order.item) == group && screen.offers(order.choice)
                 && (!cheapest || order.cost < cheapest->cost))
                 cheapest = &order;
         }
         if (cheapest)
-            boxes << QLatin1String(cheapest->box);
+            choices.push_back(cheapest->choice);
     }
-    if (!boxes.isEmpty())
-        m_totals.worksOrdered += works.order(boxes);
+    if (!choices.empty())
+        m_totals.worksOrdered += works.order(choices);
 }
 
 void AutoSeason::makeAnOffer()
