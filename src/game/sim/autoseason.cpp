@@ -14,6 +14,7 @@
 #include "transfers/contracts.h"
 #include "transfers/market.h"
 #include "transfers/offers.h"
+#include "transfers/statements.h"
 
 #include <QSet>
 
@@ -235,11 +236,9 @@ void AutoSeason::listASpareMan()
 {
     GameStore &store = m_context.store;
     const int club = m_career.week().career().club;
-    if (store.integer("select count(*) from jugadores where idequipo = ?", club) <= kSquadToKeep)
+    if (sql::transfers::squadSize(store, club) <= kSquadToKeep)
         return;
-    const int weakest = int(store.integer("select idjugador from jugadores where idequipo = ? and venta = 0"
-                                          " order by Media, idjugador limit 1",
-                                          club));
+    const int weakest = sql::transfers::weakestUnlisted(store, club);
     if (weakest > 0)
         Contracts(m_context).toggleListing(weakest);
 }
@@ -248,9 +247,7 @@ void AutoSeason::renewAShortContract()
 {
     GameStore &store = m_context.store;
     const int club = m_career.week().career().club;
-    const int player = int(store.integer("select min(idjugador) from jugadores where idequipo = ?"
-                                         " and \"Años_Contrato\" <= 1",
-                                         club));
+    const int player = sql::transfers::firstInLastYear(store, club);
     if (player == 0)
         return;
     const std::optional<Market::Card> card = Market(m_context).card(player);
