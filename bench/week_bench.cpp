@@ -103,19 +103,18 @@ int main()
 
             game::Works works(context);
             const game::Works::Screen screen = works.screen();
-            QStringList boxes;
+            std::vector<game::Works::Choice> choices;
             QList<game::Works::Group> taken;
-            for (const game::Works::UnderWay &work : screen.underWay) {
-                if (const auto group = game::Works::groupOfKey(work.key))
-                    taken << *group;
-            }
+            for (const game::Works::UnderWay &work : screen.underWay)
+                taken << game::Works::groupOf(work.item);
             for (const game::Works::Order &order : game::Works::catalogue()) {
-                if (!taken.contains(order.group) && screen.enabledBoxes.contains(QLatin1String(order.box))) {
-                    taken << order.group;
-                    boxes << QLatin1String(order.box);
+                const game::Works::Group group = game::Works::groupOf(order.item);
+                if (!taken.contains(group) && screen.offers(order.choice)) {
+                    taken << group;
+                    choices.push_back(order.choice);
                 }
             }
-            works.order(boxes);
+            works.order(choices);
         }
         (void)store.run([&] {
             store.execute("delete from calendario");

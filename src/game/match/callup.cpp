@@ -3,6 +3,7 @@
 #include "league/leagueclubs.h"
 #include "league/careerrow.h"
 #include "dialogs.h"
+#include "match/statements.h"
 #include "store/gamestore.h"
 
 #include <QObject>
@@ -19,44 +20,21 @@ QString CallUp::Place::listText() const
 std::vector<CallUp::Place> CallUp::places()
 {
     std::vector<Place> list;
-    m_context.store.attempt([&] {
-        GameStore::Query rows = m_context.store.query(
-            "select Pos_Partido, idjugador, Nombre, Apellidos, Posicion, Media from miequipo order by rowid");
-        while (rows.next())
-            list.push_back({rows.text(0), rows.integer(1), rows.text(2), rows.text(3), rows.text(4), rows.integer(5)});
-    });
+    m_context.store.attempt([&] { list = sql::match::places(m_context.store); });
     return list;
 }
 
 std::vector<CallUp::Player> CallUp::squad()
 {
     std::vector<Player> players;
-    m_context.store.attempt([&] {
-        GameStore::Query rows = m_context.store.query(
-            "select idjugador, Nombre, Apellidos, Posicion, Media, Dorsal, Lesiones from jugadores"
-            " where idequipo = ? order by Posicion, idjugador",
-            userClub(m_context.store));
-        while (rows.next()) {
-            players.push_back({rows.integer(0), rows.text(1), rows.text(2), rows.text(3), rows.integer(4),
-                               rows.integer(5), rows.integer(6)});
-        }
-    });
+    m_context.store.attempt([&] { players = sql::match::squad(m_context.store, userClub(m_context.store)); });
     return players;
 }
 
 std::vector<CallUp::Player> CallUp::calledUp()
 {
     std::vector<Player> players;
-    m_context.store.attempt([&] {
-        GameStore::Query rows = m_context.store.query(
-            "select m.idjugador, m.Nombre, m.Apellidos, m.Posicion, m.Media, coalesce(j.Dorsal, 0),"
-            " coalesce(j.Lesiones, 0) from miequipo m left join jugadores j on j.idjugador = m.idjugador"
-            " order by m.rowid");
-        while (rows.next()) {
-            players.push_back({rows.integer(0), rows.text(1), rows.text(2), rows.text(3), rows.integer(4),
-                               rows.integer(5), rows.integer(6)});
-        }
-    });
+    m_context.store.attempt([&] { players = sql::match::calledUp(m_context.store); });
     return players;
 }
 
@@ -68,18 +46,13 @@ bool CallUp::place(int placeIndex, int playerId)
     bool placed = false;
     const Result result = store.run([&] {
         const int club = userClub(store);
-        GameStore::Query player = store.query(
-            "select Nombre, Apellidos, Media, Posicion from jugadores where idjugador = ? and idequipo = ?", playerId, club);
-        if (!player.next())
+        const std::optional<Player> player = sql::match::clubPlayer(store, playerId, club);
+        if (!player)
             return;
-        const QString key = store.text("select Pos_Partido from miequipo order by rowid limit 1 offset ?", placeIndex);
+        const QString key = sql::match::placeKey(store, placeIndex);
         // Out of the place he held, if any: it reads as free again.
-        store.execute("update miequipo set Nombre = Pos_Partido, Apellidos = '', idjugador = 0, Posicion = ''"
-                      " where idjugador = ?",
-                      playerId);
-        store.execute("update miequipo set idequipo = ?, idjugador = ?, Nombre = ?, Apellidos = ?, Media = ?,"
-                      " Posicion = ? where Pos_Partido = ?",
-                      club, playerId, player.text(0), player.text(1), player.integer(2), player.text(3), key);
+        sql::match::leavePlace(store, playerId);
+        sql::match::takePlace(store, key, club, *player);
         placed = true;
     });
     if (!result) {
@@ -93,7 +66,7 @@ bool CallUp::readyToPlay()
 {
     qint64 filled = 0;
     m_context.store.attempt(
-        [&] { filled = m_context.store.integer("select count(idjugador) from miequipo where idjugador <> 0"); });
+        [&] { filled = sql::match::filledPlaces(m_context.store); });
     if (filled != kPlaces) {
         m_context.dialogs.tell(QObject::tr("Debes Seleccionar 14 Jugadores para la Covocatoria"));
         return false;
@@ -104,19 +77,10 @@ bool CallUp::readyToPlay()
 void CallUp::chooseBest()
 {
     // The squad from the best down; among equals, as the squad lists them (by position, then
-    // id). Only what the choice needs is read, straight from the club's index.
-    struct Candidate {
-        int id = 0;
-        QString posicion;
-    };
+    // id).
+    using Candidate = sql::match::Candidate;
     std::vector<Candidate> players;
-    m_context.store.attempt([&] {
-        GameStore::Query rows = m_context.store.query("select idjugador, Posicion from jugadores where idequipo = ?"
-                                                      " order by Media desc, Posicion, idjugador",
-                                                      userClub(m_context.store));
-        while (rows.next())
-            players.push_back({rows.integer(0), rows.text(1)});
-    });
+    m_context.store.attempt([&] { players = sql::match::bestFirst(m_context.store, userClub(m_context.store)); });
     std::set<int> chosen;
     std::vector<int> lineUp;
     for (const char16_t *position : kPositions) {

@@ -4,8 +4,8 @@
 #include "dialogs.h"
 #include "money.h"
 #include "random.h"
-#include "stadium/entradas.h"
 #include "stadium/ledger.h"
+#include "stadium/statements.h"
 #include "store/gamestore.h"
 
 #include <optional>
@@ -57,19 +57,17 @@ Gate::Report Gate::draw(const Fixture &fixture)
     // Each read that fails is passed over and leaves its figure at nothing.
     const CareerRow career = CareerRow::current(m_context);
     store.attempt([&] {
-        GameStore::Query stadium = store.query("select Nombre, min_gradas from estadios where idequipo = ?",
-                                               fixture.homeId);
-        if (stadium.next()) {
+        if (const std::optional<sql::stadium::Hall> hall = sql::stadium::hall(store, fixture.homeId)) {
             report.hasStadium = true;
-            report.stadium = stadium.text(0);
-            report.capacity = stadium.integer(1);
+            report.stadium = hall->name;
+            report.capacity = hall->capacity;
         }
     });
     // The prices are always the user's own, also in the rival's stadium.
     qint64 ticketPrice = 0;
     qint64 hoardingPrice = 0;
-    store.attempt([&] { ticketPrice = Entradas::value(store, Entrada::TicketPrice); });
-    store.attempt([&] { hoardingPrice = Entradas::value(store, Entrada::BoardPrice); });
+    store.attempt([&] { ticketPrice = sql::stadium::entrada(store, Entrada::TicketPrice); });
+    store.attempt([&] { hoardingPrice = sql::stadium::entrada(store, Entrada::BoardPrice); });
 
     report.fullHouse = isBigMatch(store, fixture.homeId, fixture.awayId);
     if (report.fullHouse) {
@@ -101,7 +99,7 @@ bool Gate::post(const Report &report)
         Ledger ledger(store);
         ledger.postGateAndBoards(career.week, report.gateTakings, report.hoardingsTakings);
         // The cafeterias take two euros a head.
-        if (store.integer("select cafeteria from estadios where idequipo = ?", career.club) != 0)
+        if (sql::stadium::hasCafeterias(store, career.club))
             ledger.postCafeterias(career.week, 2 * qint64(report.attendance));
     });
     if (!posted) {

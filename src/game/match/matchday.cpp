@@ -1,6 +1,7 @@
 #include "matchday.h"
 
 #include "league/careerrow.h"
+#include "match/statements.h"
 #include "match/tactics.h"
 #include "store/gamestore.h"
 
@@ -19,18 +20,17 @@ MatchEngine::Setup MatchDay::setup(const Fixture &fixture)
         // The user is at home when the home club's name is his, capitals or not.
         setup.userAtHome = career.isUserClub(fixture.homeName);
 
-        GameStore::Query places = store.query("select Nombre, Apellidos, Posicion, Media from miequipo order by rowid");
-        for (std::size_t row = 0; row < setup.rows.size() && places.next(); ++row) {
+        const std::vector<sql::match::SheetLine> places = sql::match::userSheet(store);
+        for (std::size_t row = 0; row < setup.rows.size() && row < places.size(); ++row) {
             MatchEngine::Row &place = setup.rows[row];
-            place.name = places.text(0) + QLatin1Char(' ') + places.text(1);
-            place.position = places.text(2);
-            place.rating = places.integer(3);
+            place.name = places[row].nombre + QLatin1Char(' ') + places[row].apellidos;
+            place.position = places[row].posicion;
+            place.rating = places[row].media;
         }
 
-        GameStore::Query rival = store.query("select Nombre, Apellidos, Media, Posicion from jugar order by plaza");
-        while (rival.next()) {
-            setup.rival.push_back({rival.text(0) + QLatin1Char(' ') + rival.text(1), rival.integer(2),
-                                   rival.text(3).compare(QStringLiteral("Portero"), Qt::CaseInsensitive) == 0});
+        for (const sql::match::SheetLine &rival : sql::match::rivalSheet(store)) {
+            setup.rival.push_back({rival.nombre + QLatin1Char(' ') + rival.apellidos, rival.media,
+                                   rival.posicion.compare(QStringLiteral("Portero"), Qt::CaseInsensitive) == 0});
         }
     });
     return setup;
@@ -50,11 +50,7 @@ QString MatchDay::storedDefence()
 QStringList MatchDay::squadSurnames()
 {
     QStringList surnames;
-    m_context.store.attempt([&] {
-        GameStore::Query places = m_context.store.query("select Apellidos from miequipo order by rowid");
-        while (places.next())
-            surnames << places.text(0);
-    });
+    m_context.store.attempt([&] { surnames = sql::match::squadSurnames(m_context.store); });
     return surnames;
 }
 

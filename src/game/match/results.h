@@ -24,14 +24,8 @@ public:
 private:
     // Writes a fixture's score and the two clubs' lines of the table.
     void settle(int idpartido, int homeClub, int awayClub, int homeGoals, int awayGoals);
-    // Adds one match to a club's line: a win, a draw or a defeat by these goals.
-    void win(int club, int goalsFor, int goalsAgainst);
-    void draw(int club, int goalsFor, int goalsAgainst);
-    void lose(int club, int goalsFor, int goalsAgainst);
     // Plays a fixture of the round that the user's club is not in.
     void simulate(int idpartido, int homePosition, int awayPosition);
-    // The club that stands behind a template position this season.
-    int clubAt(int position);
     // The average rating of the whole squad, rounded half to even.
     int strength(int club);
     // The goals of the stronger side: 1 to 41 drawn again until at least 21.

@@ -1,6 +1,7 @@
 #include "tactics.h"
 
 #include "dialogs.h"
+#include "stadium/statements.h"
 #include "store/gamestore.h"
 
 namespace game {
@@ -45,7 +46,7 @@ int Tactics::storedCode(Entrada row)
     // A store that cannot be read shows no system rather than ending the game.
     int code = 0;
     m_context.store.attempt(
-        [&] { code = int(Entradas::value(m_context.store, row)); });
+        [&] { code = int(sql::stadium::entrada(m_context.store, row)); });
     return code;
 }
 
@@ -64,7 +65,7 @@ void Tactics::setAttack(int code)
 void Tactics::store(Entrada row, int code)
 {
     const Result result = m_context.store.run(
-        [&] { Entradas::set(m_context.store, row, code); });
+        [&] { sql::stadium::setEntrada(m_context.store, row, code); });
     if (!result)
         m_context.dialogs.tell(result.message(), Dialogs::Icon::Exclamation);
 }

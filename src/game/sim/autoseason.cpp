@@ -14,6 +14,7 @@
 #include "transfers/contracts.h"
 #include "transfers/market.h"
 #include "transfers/offers.h"
+#include "transfers/statements.h"
 
 #include <QSet>
 
@@ -221,27 +222,25 @@ void AutoSeason::orderCheapestWorks()
     Works works(m_context);
     const Works::Screen screen = works.screen();
     QSet<int> busyGroups;
-    for (const Works::UnderWay &work : screen.underWay) {
-        if (const std::optional<Works::Group> group = Works::groupOfKey(work.key))
-            busyGroups.insert(static_cast<int>(*group));
-    }
-    QStringList boxes;
+    for (const Works::UnderWay &work : screen.underWay)
+        busyGroups.insert(static_cast<int>(Works::groupOf(work.item)));
+    std::vector<Works::Choice> choices;
     for (const Works::Group group :
          {Works::Group::Seats, Works::Group::Parking, Works::Group::Equipment, Works::Group::Services}) {
         if (busyGroups.contains(static_cast<int>(group)))
             continue;
-        // The cheapest work of the group on offer; among equal prices the first the screen lists.
+        // The cheapest work of the group on offer; among equal prices the first the catalogue lists.
         const Works::Order *cheapest = nullptr;
         for (const Works::Order &order : Works::catalogue()) {
-            if (order.group == group && screen.enabledBoxes.contains(QLatin1String(order.box))
+            if (Works::groupOf(order.item) == group && screen.offers(order.choice)
                 && (!cheapest || order.cost < cheapest->cost))
                 cheapest = &order;
         }
         if (cheapest)
-            boxes << QLatin1String(cheapest->box);
+            choices.push_back(cheapest->choice);
     }
-    if (!boxes.isEmpty())
-        m_totals.worksOrdered += works.order(boxes);
+    if (!choices.empty())
+        m_totals.worksOrdered += works.order(choices);
 }
 
 void AutoSeason::makeAnOffer()
@@ -261,11 +260,9 @@ void AutoSeason::listASpareMan()
 {
     GameStore &store = m_context.store;
     const int club = m_career.week().career().club;
-    if (store.integer("select count(*) from jugadores where idequipo = ?", club) <= kSquadToKeep)
+    if (sql::transfers::squadSize(store, club) <= kSquadToKeep)
         return;
-    const int weakest = int(store.integer("select idjugador from jugadores where idequipo = ? and venta = 0"
-                                          " order by Media, idjugador limit 1",
-                                          club));
+    const int weakest = sql::transfers::weakestUnlisted(store, club);
     if (weakest > 0)
         Contracts(m_context).toggleListing(weakest);
 }
@@ -274,9 +271,7 @@ void AutoSeason::renewAShortContract()
 {
     GameStore &store = m_context.store;
     const int club = m_career.week().career().club;
-    const int player = int(store.integer("select min(idjugador) from jugadores where idequipo = ?"
-                                         " and \"Años_Contrato\" <= 1",
-                                         club));
+    const int player = sql::transfers::firstInLastYear(store, club);
     if (player == 0)
         return;
     const std::optional<Market::Card> card = Market(m_context).card(player);

@@ -1,14 +1,15 @@
 #include "ledger.h"
 
 #include "money.h"
+#include "stadium/statements.h"
 #include "store/gamestore.h"
 
 namespace game {
 
 qint64 Ledger::weeklyWages(int club)
 {
-    const qint64 seasonWages = m_store.integer("select sum(Ficha) from jugadores where idequipo = ?", club);
-    const qint64 weeks = m_store.integer("select count(*) from calendario");
+    const qint64 seasonWages = sql::stadium::seasonWages(m_store, club);
+    const qint64 weeks = sql::stadium::calendarWeeks(m_store);
     return roundHalfEven(seasonWages, weeks);
 }
 
@@ -16,30 +17,18 @@ void Ledger::openWeek(int week, int club)
 {
     const qint64 wages = weeklyWages(club);
     const qint64 budgetNow = budget(club);
-    // Every other column of the row opens at 0.
-    m_store.execute("insert into caja (semana, Gastos_Fichas, Gastos_Empleados, Gastos, Caja) values (?, ?, ?, ?, ?)",
-                    week, wages, kStaffWages, wages + kStaffWages, budgetNow - kStaffWages - wages);
-    m_store.execute("update infoteams set presupuesto = presupuesto - ? - ? where idequipo = ?", kStaffWages,
-                    wages, club);
+    sql::stadium::openLedgerWeek(m_store, week, wages, kStaffWages, budgetNow - kStaffWages - wages);
+    sql::stadium::payWeekFromBudget(m_store, club, kStaffWages, wages);
 }
 
 void Ledger::postGateAndBoards(int week, qint64 gate, qint64 boards)
 {
-    m_store.execute("update caja set Caja = Caja + ?, Ingresos = Ingresos + ?, ingresos_Taquilla = ingresos_Taquilla + ?,"
-                    " ingresos_publi = ingresos_publi + ? where semana = ?",
-                    gate + boards, gate + boards, gate, boards, week);
-}
-
-void Ledger::postIncome(const char *sql, int week, qint64 amount)
-{
-    m_store.execute(sql, amount, amount, amount, week);
+    sql::stadium::postGateAndBoards(m_store, week, gate, boards);
 }
 
 void Ledger::postCafeterias(int week, qint64 amount)
 {
-    postIncome("update caja set Caja = Caja + ?, Ingresos_Tienda = Ingresos_Tienda + ?, Ingresos = Ingresos + ?"
-               " where semana = ?",
-               week, amount);
+    sql::stadium::post(m_store, week, sql::stadium::Posting::ShopAndCafeterias, amount);
 }
 
 void Ledger::postClubShop(int week, qint64 amount)
@@ -49,91 +38,47 @@ void Ledger::postClubShop(int week, qint64 amount)
 
 void Ledger::postTelevision(int week)
 {
-    postIncome("update caja set Caja = Caja + ?, Ingresos = Ingresos + ?, ingresos_TV = ingresos_TV + ? where semana = ?",
-               week, kTelevisionFee);
+    sql::stadium::post(m_store, week, sql::stadium::Posting::Television, kTelevisionFee);
 }
 
 void Ledger::postSale(int week, qint64 amount)
 {
-    postIncome("update caja set Caja = Caja + ?, Ingresos = Ingresos + ?,"
-               " Ingresos_Venta_Jugador = Ingresos_Venta_Jugador + ? where semana = ?",
-               week, amount);
+    sql::stadium::post(m_store, week, sql::stadium::Posting::Sale, amount);
 }
 
 void Ledger::postSigning(int week, qint64 amount)
 {
-    postIncome("update caja set Caja = Caja - ?, Gastos = Gastos + ?, Gastos_Fichajes = Gastos_Fichajes + ?"
-               " where semana = ?",
-               week, amount);
+    sql::stadium::post(m_store, week, sql::stadium::Posting::Signing, amount);
 }
 
 void Ledger::postDismissal(int week, qint64 amount)
 {
-    postIncome("update caja set Caja = Caja - ?, Gastos = Gastos + ?, Gastos_Despido = Gastos_Despido + ?"
-               " where semana = ?",
-               week, amount);
+    sql::stadium::post(m_store, week, sql::stadium::Posting::Dismissal, amount);
 }
 
 void Ledger::postWorks(int week, qint64 amount)
 {
-    postIncome("update caja set Caja = Caja - ?, Gastos = Gastos + ?,"
-               " Gastos_Remodelaciones = Gastos_Remodelaciones + ? where semana = ?",
-               week, amount);
+    sql::stadium::post(m_store, week, sql::stadium::Posting::Works, amount);
 }
-
-namespace {
-
-Ledger::Row readRow(const GameStore::Query &query)
-{
-    auto value = [&](int column) { return query.integer64(column); };
-    Ledger::Row row;
-    row.semana = query.integer(0);
-    row.taquilla = value(1);
-    row.publicidad = value(2);
-    row.television = value(3);
-    row.ventaJugadores = value(4);
-    row.tiendas = value(5);
-    row.fichajes = value(6);
-    row.despidos = value(7);
-    row.salarios = value(8);
-    row.hospitales = value(9);
-    row.empleados = value(10);
-    row.remodelaciones = value(11);
-    row.ingresos = value(12);
-    row.gastos = value(13);
-    row.caja = value(14);
-    return row;
-}
-
-} // namespace
 
 std::optional<Ledger::Row> Ledger::row(int week)
 {
-    GameStore::Query query = m_store.query("select * from caja where semana = ?", week);
-    if (!query.next())
-        return std::nullopt;
-    return readRow(query);
+    return sql::stadium::ledgerRow(m_store, week);
 }
 
 Ledger::Row Ledger::seasonTotals()
 {
-    GameStore::Query query = m_store.query(
-        "select 0, total(ingresos_Taquilla), total(ingresos_publi), total(ingresos_TV), total(Ingresos_Venta_Jugador),"
-        " total(Ingresos_Tienda), total(Gastos_Fichajes), total(Gastos_Despido), total(Gastos_Fichas),"
-        " total(Gastos_Hospitales), total(Gastos_Empleados), total(Gastos_Remodelaciones), total(Ingresos),"
-        " total(Gastos), 0 from caja");
-    query.next();
-    return readRow(query);
+    return sql::stadium::ledgerTotals(m_store);
 }
 
 qint64 Ledger::firstBalance()
 {
-    return m_store.integer("select Caja from caja order by semana limit 1");
+    return sql::stadium::firstBalance(m_store);
 }
 
 qint64 Ledger::budget(int club)
 {
-    return m_store.integer("select presupuesto from infoteams where idequipo = ?", club);
+    return sql::stadium::budget(m_store, club);
 }
 
 Ledger::Sheet Ledger::sheet(int week)

@@ -85,8 +85,6 @@ public:
     qint64 budget(int club);
 
 private:
-    void postIncome(const char *sql, int week, qint64 amount);
-
     GameStore &m_store;
 };
 

@@ -1,7 +1,7 @@
 #include "prices.h"
 
 #include "dialogs.h"
-#include "stadium/entradas.h"
+#include "stadium/statements.h"
 #include "store/gamestore.h"
 
 namespace game {
@@ -11,7 +11,7 @@ namespace {
 int storedPrice(GameStore &store, Entrada row)
 {
     int price = 0;
-    store.attempt([&] { price = static_cast<int>(Entradas::value(store, row)); });
+    store.attempt([&] { price = static_cast<int>(sql::stadium::entrada(store, row)); });
     return price;
 }
 
@@ -54,10 +54,10 @@ int Prices::press(int row, int bound, int step)
     int old = 0;
     int now = 0;
     const Result written = store.run([&] {
-        old = static_cast<int>(Entradas::value(store, entrada));
+        old = static_cast<int>(sql::stadium::entrada(store, entrada));
         now = stepped(old, bound, step);
         // Written at every press, also when the price stays at its bound.
-        Entradas::set(store, entrada, now);
+        sql::stadium::setEntrada(store, entrada, now);
     });
     if (!written) {
         m_context.dialogs.tell(written.message(), Dialogs::Icon::Exclamation);

@@ -3,6 +3,7 @@
 #include "dialogs.h"
 #include "random.h"
 #include "stadium/ledger.h"
+#include "stadium/statements.h"
 #include "store/gamestore.h"
 
 namespace game {
@@ -29,7 +30,7 @@ QString Television::drawChannel()
     GameStore &store = m_context.store;
     const int channel = m_context.random.draw(kChannels);
     QString name;
-    store.attempt([&] { name = store.text("select NombreTV from televisiones where idTelevision = ?", channel); });
+    store.attempt([&] { name = sql::stadium::channel(store, channel); });
     return name;
 }
 

@@ -3,118 +3,165 @@
 #include "league/careerrow.h"
 #include "dialogs.h"
 #include "stadium/ledger.h"
+#include "stadium/statements.h"
 #include "store/gamestore.h"
 
-#include <QRegularExpression>
-#include <QSet>
+#include <QStringList>
 
-#include <algorithm>
 #include <stdexcept>
-#include <string>
 
 namespace game {
 
 namespace {
 
+using Choice = Works::Choice;
 using Group = Works::Group;
+using Item = Works::Item;
 
-// The orders in the order in which the screen's button tests its boxes. Seat orders add to
-// the capacity of the moment; the finished number goes into the order.
+// The nineteen orders, in the order in which they are placed when several are ticked. Seat
+// orders add to the capacity of the moment; the finished number goes into the order.
 const std::array<Works::Order, 19> kCatalogue{{
-    {"Option1", Group::Seats, "1000 asientos", "gradas 1000 1000000 12", "min_gradas", 1000, 1000000, 12},
-    {"Option2", Group::Seats, "2000 asientos", "gradas 2000 5000000 17", "min_gradas", 2000, 5000000, 17},
-    {"Option3", Group::Seats, "4000 asientos", "gradas 4000 10000000 22", "min_gradas", 4000, 10000000, 22},
-    {"Option5", Group::Parking, "Con Parking", "parking 0 3500000 30", "parking", 1, 3500000, 30},
-    {"Option6", Group::Equipment, "170000 K.W.", "focos 1 120000 6", "focos", 1, 120000, 6},
-    {"Option7", Group::Equipment, "300000 K.W.", "focos 2 120000 6", "focos", 2, 120000, 6},
-    {"Option8", Group::Equipment, "500000 K.W.", "focos 3 120000 6", "focos", 3, 120000, 6},
-    {"Option12", Group::Equipment, "ELECTRÓNICO", "marcadores 2 120000 3", "marcadores", 2, 120000, 3},
-    {"Option11", Group::Equipment, "VÍDEO-MARCADOR", "marcadores 3 240000 3", "marcadores", 3, 240000, 3},
-    {"Option9", Group::Equipment, "Con Calefacción", "calefaccion 0 240000 10", "calefaccion", 1, 240000, 10},
-    {"Option15", Group::Equipment, "FUNCIONALES", "accesos 2 540000 8", "accesos", 2, 540000, 8},
-    {"Option14", Group::Equipment, "AMPLIOS", "accesos 3 540000 8", "accesos", 3, 540000, 8},
-    {"Option17", Group::Services, "BÁSICA", "enfermeria 1 60000 4", "enfermeria", 1, 60000, 4},
-    {"Option18", Group::Services, "COMPLETA", "enfermeria 2 60000 4", "enfermeria", 2, 60000, 4},
-    {"Option19", Group::Services, "U.C.I.", "enfermeria 3 60000 4", "enfermeria", 3, 60000, 4},
-    {"Option21", Group::Services, "15 Tiendas", "tienda 0 90000 7", "tienda", 1, 90000, 7},
-    {"Option25", Group::Services, "15 Lavabos", "lavabos 2 612000 2", "lavabos", 2, 612000, 2},
-    {"Option26", Group::Services, "40 Lavabos", "lavabos 3 612000 3", "lavabos", 3, 612000, 3},
-    {"Option23", Group::Services, "20 Cafeterías", "cafeteria 0 135000 9", "cafeteria", 1, 135000, 9},
+    {Choice::Seats1000, Item::Seats, "gradas 1000 1000000 12", 1000, 1000000, 12},
+    {Choice::Seats2000, Item::Seats, "gradas 2000 5000000 17", 2000, 5000000, 17},
+    {Choice::Seats4000, Item::Seats, "gradas 4000 10000000 22", 4000, 10000000, 22},
+    {Choice::Parking, Item::Parking, "parking 0 3500000 30", 1, 3500000, 30},
+    {Choice::Lights170kW, Item::Lights, "focos 1 120000 6", 1, 120000, 6},
+    {Choice::Lights300kW, Item::Lights, "focos 2 120000 6", 2, 120000, 6},
+    {Choice::Lights500kW, Item::Lights, "focos 3 120000 6", 3, 120000, 6},
+    {Choice::ElectronicScoreboard, Item::Scoreboards, "marcadores 2 120000 3", 2, 120000, 3},
+    {Choice::VideoScoreboard, Item::Scoreboards, "marcadores 3 240000 3", 3, 240000, 3},
+    {Choice::Heating, Item::Heating, "calefaccion 0 240000 10", 1, 240000, 10},
+    {Choice::FunctionalAccess, Item::Access, "accesos 2 540000 8", 2, 540000, 8},
+    {Choice::WideAccess, Item::Access, "accesos 3 540000 8", 3, 540000, 8},
+    {Choice::BasicInfirmary, Item::Infirmary, "enfermeria 1 60000 4", 1, 60000, 4},
+    {Choice::FullInfirmary, Item::Infirmary, "enfermeria 2 60000 4", 2, 60000, 4},
+    {Choice::IntensiveCare, Item::Infirmary, "enfermeria 3 60000 4", 3, 60000, 4},
+    {Choice::Shop, Item::Shop, "tienda 0 90000 7", 1, 90000, 7},
+    {Choice::FifteenToilets, Item::Toilets, "lavabos 2 612000 2", 2, 612000, 2},
+    {Choice::FortyToilets, Item::Toilets, "lavabos 3 612000 3", 3, 612000, 3},
+    {Choice::Cafeterias, Item::Cafeterias, "cafeteria 0 135000 9", 1, 135000, 9},
 }};
 
-// The item keys of the order texts and the group each belongs to.
-struct Key
+// Every choice with its item and its step: the level it stands for, or for the seats the
+// seats it adds.
+struct ChoiceLine
 {
+    Choice choice;
+    Item item;
+    int step;
+    const char *caption;
+};
+constexpr std::array<ChoiceLine, 26> kChoices{{
+    {Choice::Seats1000, Item::Seats, 1000, "1000 asientos"},
+    {Choice::Seats2000, Item::Seats, 2000, "2000 asientos"},
+    {Choice::Seats4000, Item::Seats, 4000, "4000 asientos"},
+    {Choice::NoParking, Item::Parking, 0, "Sin Parking"},
+    {Choice::Parking, Item::Parking, 1, "Con Parking"},
+    {Choice::Lights170kW, Item::Lights, 1, "170000 K.W."},
+    {Choice::Lights300kW, Item::Lights, 2, "300000 K.W."},
+    {Choice::Lights500kW, Item::Lights, 3, "500000 K.W."},
+    {Choice::ManualScoreboard, Item::Scoreboards, 1, "MANUAL"},
+    {Choice::ElectronicScoreboard, Item::Scoreboards, 2, "ELECTRÓNICO"},
+    {Choice::VideoScoreboard, Item::Scoreboards, 3, "VÍDEO-MARCADOR"},
+    {Choice::NoHeating, Item::Heating, 0, "Sin Calefacción"},
+    {Choice::Heating, Item::Heating, 1, "Con Calefacción"},
+    {Choice::BasicAccess, Item::Access, 1, "BÁSICOS"},
+    {Choice::FunctionalAccess, Item::Access, 2, "FUNCIONALES"},
+    {Choice::WideAccess, Item::Access, 3, "AMPLIOS"},
+    {Choice::BasicInfirmary, Item::Infirmary, 1, "BÁSICA"},
+    {Choice::FullInfirmary, Item::Infirmary, 2, "COMPLETA"},
+    {Choice::IntensiveCare, Item::Infirmary, 3, "U.C.I."},
+    {Choice::NoShop, Item::Shop, 0, "Sin Tiendas"},
+    {Choice::Shop, Item::Shop, 1, "15 Tiendas"},
+    {Choice::OneToilet, Item::Toilets, 1, "1 Lavabo"},
+    {Choice::FifteenToilets, Item::Toilets, 2, "15 Lavabos"},
+    {Choice::FortyToilets, Item::Toilets, 3, "40 Lavabos"},
+    {Choice::NoCafeterias, Item::Cafeterias, 0, "Sin Cafeterías"},
+    {Choice::Cafeterias, Item::Cafeterias, 1, "20 Cafeterías"},
+}};
+
+// The items in their order, with the key that names each in an order's text and its group.
+struct ItemLine
+{
+    Item item;
     const char *key;
     Group group;
 };
-constexpr std::array<Key, 10> kKeys{{
-    {"gradas", Group::Seats},
-    {"parking", Group::Parking},
-    {"focos", Group::Equipment},
-    {"marcadores", Group::Equipment},
-    {"calefaccion", Group::Equipment},
-    {"accesos", Group::Equipment},
-    {"enfermeria", Group::Services},
-    {"tienda", Group::Services},
-    {"lavabos", Group::Services},
-    {"cafeteria", Group::Services},
+constexpr std::array<ItemLine, 10> kItems{{
+    {Item::Seats, "gradas", Group::Seats},
+    {Item::Parking, "parking", Group::Parking},
+    {Item::Lights, "focos", Group::Equipment},
+    {Item::Scoreboards, "marcadores", Group::Equipment},
+    {Item::Heating, "calefaccion", Group::Equipment},
+    {Item::Access, "accesos", Group::Equipment},
+    {Item::Infirmary, "enfermeria", Group::Services},
+    {Item::Shop, "tienda", Group::Services},
+    {Item::Toilets, "lavabos", Group::Services},
+    {Item::Cafeterias, "cafeteria", Group::Services},
 }};
 
-// Every box of the screen with the frame that holds it. A closed frame makes its boxes
-// unusable whatever their own state.
-struct Box
-{
-    const char *box;
-    const char *frame;
-};
-constexpr std::array<Box, 26> kBoxes{{
-    {"Option1", "gradas"},      {"Option2", "gradas"},      {"Option3", "gradas"},
-    {"Option4", "Parking"},     {"Option5", "Parking"},
-    {"Option6", "focos"},       {"Option7", "focos"},       {"Option8", "focos"},
-    {"Option13", "Marcadores"}, {"Option12", "Marcadores"}, {"Option11", "Marcadores"},
-    {"Option10", "cale"},       {"Option9", "cale"},
-    {"Option16", "Accesos"},    {"Option15", "Accesos"},    {"Option14", "Accesos"},
-    {"Option17", "Enfermeria"}, {"Option18", "Enfermeria"}, {"Option19", "Enfermeria"},
-    {"Option20", "Tienda"},     {"Option21", "Tienda"},
-    {"Option22", "Cafeteria"},  {"Option23", "Cafeteria"},
-    {"Option24", "wc"},         {"Option25", "wc"},         {"Option26", "wc"},
-}};
-
-// The frames a work under way closes. The service frames close the heating frame too: it
+// A work under way closes every item of its group. A service work closes the heating too: it
 // was drawn among the services' as well, and the stadium has always behaved that way.
-QStringList framesClosedBy(Group group)
+bool closes(Group group, Item item)
 {
-    switch (group) {
-    case Group::Seats:
-        return {QStringLiteral("gradas")};
-    case Group::Parking:
-        return {QStringLiteral("Parking")};
-    case Group::Equipment:
-        return {QStringLiteral("focos"), QStringLiteral("Marcadores"), QStringLiteral("Accesos"), QStringLiteral("cale")};
-    case Group::Services:
-        return {QStringLiteral("Enfermeria"), QStringLiteral("Tienda"), QStringLiteral("Cafeteria"), QStringLiteral("wc"),
-                QStringLiteral("cale")};
-    }
-    return {};
+    return Works::groupOf(item) == group || (group == Group::Services && item == Item::Heating);
 }
 
-// A row of selects as the works routines need it.
-struct PendingRow
+// Whether the stadium offers a choice, by what it has: the seats within their limits, the
+// next level of a levelled item and nothing else of it, and an item that is only there or not
+// while it is missing.
+bool offered(const ChoiceLine &line, const Works::Stadium &stadium)
 {
-    qint64 rowid = 0;
-    QString statement;
-    int jornada = 0;
-    QString observaciones;
-};
+    // A level outside 0 to 3 is one the stadium does not know: it changes no choice.
+    const auto nextLevel = [&](int level) { return level < 0 || level > 3 || line.step == level + 1; };
+    switch (line.item) {
+    case Item::Seats:
+        // The limits lie one seat above the round numbers, so an extension that just reaches
+        // 20000 seats is still offered.
+        if (line.step == 4000)
+            return stadium.capacity < Works::kNo4000From;
+        if (line.step == 2000)
+            return stadium.capacity < Works::kNo2000From;
+        return stadium.capacity < Works::kNo1000From;
+    case Item::Parking:
+        return !stadium.parking;
+    case Item::Lights:
+        return nextLevel(stadium.focos);
+    case Item::Scoreboards:
+        return nextLevel(stadium.marcadores);
+    case Item::Heating:
+        return !stadium.calefaccion;
+    case Item::Access:
+        return nextLevel(stadium.accesos);
+    case Item::Infirmary:
+        return nextLevel(stadium.enfermeria);
+    case Item::Shop:
+        return !stadium.tienda;
+    case Item::Toilets:
+        return nextLevel(stadium.lavabos);
+    case Item::Cafeterias:
+        return !stadium.cafeteria;
+    }
+    return false;
+}
 
-std::vector<PendingRow> pendingRows(GameStore &store)
+// An item that is only there or not stands at its "without" choice while it is missing.
+bool ticked(const ChoiceLine &line, const Works::Stadium &stadium)
 {
-    std::vector<PendingRow> rows;
-    GameStore::Query query = store.query("select rowid, \"select\", jornada, observaciones from selects order by rowid");
-    while (query.next())
-        rows.push_back({query.integer64(0), query.text(1), query.integer(2), query.text(3)});
-    return rows;
+    if (line.step != 0)
+        return false;
+    switch (line.item) {
+    case Item::Parking:
+        return !stadium.parking;
+    case Item::Heating:
+        return !stadium.calefaccion;
+    case Item::Shop:
+        return !stadium.tienda;
+    case Item::Cafeterias:
+        return !stadium.cafeteria;
+    default:
+        return false;
+    }
 }
 
 // The four tokens of a works order: "gradas 1000 1000000 12". A transfer offer holds a single
@@ -128,11 +175,11 @@ struct OrderText
     int weeks = 0;
 };
 
-std::optional<OrderText> parseOrder(const QString &observaciones)
+std::optional<OrderText> parseOrder(const QString &text)
 {
-    if (observaciones == QLatin1String(" "))
+    if (text == QLatin1String(" "))
         return std::nullopt;
-    const QStringList tokens = observaciones.split(QLatin1Char(' '));
+    const QStringList tokens = text.split(QLatin1Char(' '));
     if (tokens.size() != 4)
         return std::nullopt;
     OrderText order;
@@ -147,30 +194,18 @@ std::optional<OrderText> parseOrder(const QString &observaciones)
     return order;
 }
 
-// Puts into effect the statement an order holds. The game wrote it itself, of numbers only,
-// "update estadios set <column>=<value> where idequipo=<club>"; it is read back by that
-// pattern and the change is made with the numbers bound, for the column the catalogue names
-// for the order's text. So the capacity is the one fixed when the order was placed. A
-// statement that does not fit fails like any failed statement.
-void applyWork(GameStore &store, const PendingRow &row)
+// Puts into effect the statement an order holds, for the item the catalogue names for the
+// order's text. A text or a statement the stadium did not write fails like any failed
+// statement.
+void applyWork(GameStore &store, const sql::stadium::QueuedOrder &row)
 {
-    static const QRegularExpression pattern(
-        QStringLiteral("^update estadios set ([A-Za-z_]+)=(-?\\d+) where idequipo=(-?\\d+)$"));
-    const Works::Order *order = nullptr;
-    for (const Works::Order &candidate : kCatalogue) {
-        if (row.observaciones == QLatin1String(candidate.text))
-            order = &candidate;
+    for (const Works::Order &order : kCatalogue) {
+        if (row.text == QLatin1String(order.text)) {
+            sql::stadium::carryOut(store, row.statement, order.item);
+            return;
+        }
     }
-    const QRegularExpressionMatch match = pattern.match(row.statement);
-    if (!order || !match.hasMatch() || match.captured(1).compare(QLatin1String(order->column), Qt::CaseInsensitive) != 0)
-        throw std::runtime_error("the order's statement is not one the stadium wrote");
-    const std::string sql = std::string("update estadios set ") + order->column + " = ? where idequipo = ?";
-    store.execute(sql, match.captured(2).toLongLong(), match.captured(3).toLongLong());
-}
-
-void deleteRow(GameStore &store, const PendingRow &row)
-{
-    store.execute("delete from selects where rowid = ?", row.rowid);
+    throw std::runtime_error("the order's text is not one the stadium wrote");
 }
 
 QString finishedMessage(const QString &key)
@@ -180,27 +215,45 @@ QString finishedMessage(const QString &key)
 
 } // namespace
 
+Works::Group Works::groupOf(Item item)
+{
+    for (const ItemLine &line : kItems) {
+        if (line.item == item)
+            return line.group;
+    }
+    return Group::Services;
+}
+
+std::optional<Works::Item> Works::itemOfKey(const QString &key)
+{
+    for (const ItemLine &line : kItems) {
+        if (key == QLatin1String(line.key))
+            return line.item;
+    }
+    return std::nullopt;
+}
+
+QString Works::caption(Choice choice)
+{
+    for (const ChoiceLine &line : kChoices) {
+        if (line.choice == choice)
+            return QString::fromUtf8(line.caption);
+    }
+    return {};
+}
+
 const std::array<Works::Order, 19> &Works::catalogue()
 {
     return kCatalogue;
 }
 
-const Works::Order *Works::orderOfBox(const QString &box)
+const Works::Order *Works::orderOf(Choice choice)
 {
     for (const Order &order : kCatalogue) {
-        if (box == QLatin1String(order.box))
+        if (order.choice == choice)
             return &order;
     }
     return nullptr;
-}
-
-std::optional<Works::Group> Works::groupOfKey(const QString &key)
-{
-    for (const Key &known : kKeys) {
-        if (key == QLatin1String(known.key))
-            return known.group;
-    }
-    return std::nullopt;
 }
 
 int Works::pictureFor(int capacity)
@@ -214,27 +267,7 @@ std::optional<Works::Stadium> Works::stadium()
 {
     GameStore &store = m_context.store;
     std::optional<Stadium> stadium;
-    store.attempt([&] {
-        GameStore::Query row = store.query(
-            "select Nombre, min_gradas, parking, focos, marcadores, calefaccion, accesos, enfermeria, tienda, lavabos,"
-            " cafeteria from estadios where idequipo = ?",
-            userClub(store));
-        if (!row.next())
-            return;
-        Stadium read;
-        read.name = row.text(0);
-        read.capacity = row.integer(1);
-        read.parking = row.integer(2) != 0;
-        read.focos = row.integer(3);
-        read.marcadores = row.integer(4);
-        read.calefaccion = row.integer(5) != 0;
-        read.accesos = row.integer(6);
-        read.enfermeria = row.integer(7);
-        read.tienda = row.integer(8) != 0;
-        read.lavabos = row.integer(9);
-        read.cafeteria = row.integer(10) != 0;
-        stadium = read;
-    });
+    store.attempt([&] { stadium = sql::stadium::stadium(store, userClub(store)); });
     return stadium;
 }
 
@@ -244,12 +277,15 @@ std::vector<Works::UnderWay> Works::underWay()
     std::vector<UnderWay> works;
     store.attempt([&] {
         const int week = CareerRow::read(store).week;
-        for (const PendingRow &row : pendingRows(store)) {
-            const std::optional<OrderText> order = parseOrder(row.observaciones);
-            // An unknown item fills no line of the table.
-            if (!order || !groupOfKey(order->key))
+        for (const sql::stadium::QueuedOrder &row : sql::stadium::queue(store)) {
+            const std::optional<OrderText> order = parseOrder(row.text);
+            if (!order)
                 continue;
-            works.push_back({order->key, order->level, order->cost, row.jornada + order->weeks - week});
+            // An unknown item fills no line of the table.
+            const std::optional<Item> item = itemOfKey(order->key);
+            if (!item)
+                continue;
+            works.push_back({*item, order->level, order->cost, row.week + order->weeks - week});
         }
     });
     return works;
@@ -258,53 +294,9 @@ std::vector<Works::UnderWay> Works::underWay()
 Works::Screen Works::screen()
 {
     Screen screen;
-    QSet<QString> disabled;
-    QSet<QString> ticked;
-    QSet<QString> closed;
-
     const std::optional<Stadium> stadium = this->stadium();
     if (stadium) {
         screen.stadium = *stadium;
-        // A levelled item offers only its next step; at the top it offers nothing. A level
-        // outside 0 to 3 changes no box.
-        const auto level = [&](int value, std::array<const char *, 3> steps) {
-            if (value < 0 || value > 3)
-                return;
-            for (int step = 0; step < 3; ++step) {
-                if (step != value)
-                    disabled.insert(QLatin1String(steps[std::size_t(step)]));
-            }
-        };
-        level(stadium->enfermeria, {"Option17", "Option18", "Option19"});
-        level(stadium->focos, {"Option6", "Option7", "Option8"});
-        level(stadium->marcadores, {"Option13", "Option12", "Option11"});
-        level(stadium->accesos, {"Option16", "Option15", "Option14"});
-        level(stadium->lavabos, {"Option24", "Option25", "Option26"});
-
-        // An item that is only there or not ticks its "without" box while it is missing, and
-        // offers nothing once it is built.
-        const auto onOff = [&](bool installed, const char *absent, const char *order) {
-            if (installed) {
-                disabled.insert(QLatin1String(absent));
-                disabled.insert(QLatin1String(order));
-            } else {
-                ticked.insert(QLatin1String(absent));
-            }
-        };
-        onOff(stadium->tienda, "Option20", "Option21");
-        onOff(stadium->cafeteria, "Option22", "Option23");
-        onOff(stadium->calefaccion, "Option10", "Option9");
-        onOff(stadium->parking, "Option4", "Option5");
-
-        // The limits lie one seat above the round numbers, so an extension that just reaches
-        // 20000 seats is still offered.
-        if (stadium->capacity >= kNo4000From)
-            disabled.insert(QStringLiteral("Option3"));
-        if (stadium->capacity >= kNo2000From)
-            disabled.insert(QStringLiteral("Option2"));
-        if (stadium->capacity >= kNo1000From)
-            disabled.insert(QStringLiteral("Option1"));
-
         screen.parkingText = stadium->parking ? QStringLiteral("Estadio Con 4 Parkings")
                                               : QStringLiteral("Estadio Sin Parkings Propios");
         screen.picture = pictureFor(stadium->capacity);
@@ -312,29 +304,26 @@ Works::Screen Works::screen()
 
     // A work under way closes its group until it ends.
     screen.underWay = underWay();
-    for (const UnderWay &work : screen.underWay) {
-        if (const std::optional<Group> group = groupOfKey(work.key)) {
-            for (const QString &frame : framesClosedBy(*group))
-                closed.insert(frame);
+    for (const ItemLine &line : kItems) {
+        for (const UnderWay &work : screen.underWay) {
+            if (closes(groupOf(work.item), line.item)) {
+                screen.closed.push_back(line.item);
+                break;
+            }
         }
     }
 
-    for (const Box &box : kBoxes) {
-        const QString name = QLatin1String(box.box);
-        if (!disabled.contains(name) && !closed.contains(QLatin1String(box.frame)))
-            screen.enabledBoxes << name;
-        if (ticked.contains(name))
-            screen.tickedBoxes << name;
-    }
-    for (const char *frame : {"gradas", "Parking", "focos", "Marcadores", "Accesos", "cale", "Enfermeria", "Tienda",
-                              "Cafeteria", "wc"}) {
-        if (closed.contains(QLatin1String(frame)))
-            screen.closedFrames << QLatin1String(frame);
+    // Without a stadium to read every choice stands open but for the closed items.
+    for (const ChoiceLine &line : kChoices) {
+        if ((!stadium || offered(line, *stadium)) && !screen.isClosed(line.item))
+            screen.offered.push_back(line.choice);
+        if (stadium && ticked(line, *stadium))
+            screen.ticked.push_back(line.choice);
     }
     return screen;
 }
 
-int Works::order(const QStringList &tickedBoxes)
+int Works::order(const std::vector<Choice> &ticked)
 {
     GameStore &store = m_context.store;
     int placed = 0;
@@ -342,23 +331,14 @@ int Works::order(const QStringList &tickedBoxes)
         placed = 0;
         const CareerRow career = CareerRow::read(store);
         for (const Order &order : kCatalogue) {
-            if (!tickedBoxes.contains(QLatin1String(order.box)))
+            if (std::ranges::find(ticked, order.choice) == ticked.end())
                 continue;
             qint64 value = order.value;
             // A seats order holds the finished capacity, counted from the seats of this
             // moment: two seat orders before the first ends both count from the same number.
-            if (order.group == Group::Seats)
-                value += store.integer("select min_gradas from estadios where idequipo = ?", career.club);
-            const QString statement = QStringLiteral("update estadios set %1=%2 where idequipo=%3")
-                                          .arg(QLatin1String(order.column))
-                                          .arg(value)
-                                          .arg(career.club);
-            const QString payment = QStringLiteral("update infoteams set presupuesto=presupuesto - %1 where idequipo=%2")
-                                        .arg(order.cost)
-                                        .arg(career.club);
-            store.execute("insert into selects (\"select\", jornada, oferta, clausula, ficha, jugador, observaciones, pago)"
-                          " values (?, ?, 0, 0, 0, 0, ?, ?)",
-                          statement, career.week, order.text, payment);
+            if (order.item == Item::Seats)
+                value += sql::stadium::seats(store, career.club);
+            sql::stadium::queueWork(store, order.item, value, career.club, career.week, order.text, order.cost);
             ++placed;
         }
     });
@@ -381,24 +361,24 @@ int Works::runWeek()
         finished = 0;
         const CareerRow career = CareerRow::read(store);
         Ledger ledger(store);
-        for (const PendingRow &row : pendingRows(store)) {
-            const std::optional<OrderText> order = parseOrder(row.observaciones);
+        for (const sql::stadium::QueuedOrder &row : sql::stadium::queue(store)) {
+            const std::optional<OrderText> order = parseOrder(row.text);
             if (!order)
                 continue; // a transfer offer, answered elsewhere
             // A work ordered in week 20 with 12 weeks ends as week 32 opens, not 31.
-            if (row.jornada + order->weeks > career.week)
+            if (row.week + order->weeks > career.week)
                 continue;
             m_context.dialogs.tell(finishedMessage(order->key));
             // Each step may fail on its own: the work is still paid for and its order goes,
             // so it never ends twice.
             store.attempt([&] { ledger.postWorks(career.week, order->cost); });
             store.attempt([&] { applyWork(store, row); });
-            store.attempt([&] { deleteRow(store, row); });
+            store.attempt([&] { sql::stadium::dropQueued(store, row.rowid); });
             ++finished;
         }
         // The shop pays every week it stands, also the week it opens.
         store.attempt([&] {
-            if (store.integer("select tienda from estadios where idequipo = ?", career.club) != 0)
+            if (sql::stadium::hasShop(store, career.club))
                 ledger.postClubShop(career.week, kShopIncome);
         });
     });
@@ -416,18 +396,15 @@ int Works::finishAll()
     const Result closed = store.run([&] {
         finished = 0;
         const CareerRow career = CareerRow::read(store);
-        for (const PendingRow &row : pendingRows(store)) {
-            const std::optional<OrderText> order = parseOrder(row.observaciones);
+        for (const sql::stadium::QueuedOrder &row : sql::stadium::queue(store)) {
+            const std::optional<OrderText> order = parseOrder(row.text);
             if (!order)
                 continue;
             // Cut short by the season's end: the budget pays, not a week of the ledger.
-            store.attempt([&] {
-                store.execute("update infoteams set presupuesto = presupuesto - ? where idequipo = ?", order->cost,
-                              career.club);
-            });
+            store.attempt([&] { sql::stadium::chargeBudget(store, career.club, order->cost); });
             m_context.dialogs.tell(QStringLiteral("Si Tenías Obras de Mejora del Estadio se Han terminado"));
             store.attempt([&] { applyWork(store, row); });
-            store.attempt([&] { deleteRow(store, row); });
+            store.attempt([&] { sql::stadium::dropQueued(store, row.rowid); });
             ++finished;
         }
     });

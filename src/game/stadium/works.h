@@ -3,16 +3,16 @@
 #include "context.h"
 
 #include <QString>
-#include <QStringList>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <vector>
 
 namespace game {
 
-// Stadium works: the catalogue of the nineteen orders the stadium screen offers, the orders
-// under way, and their end.
+// Stadium works: the choices the stadium offers for each of its items, the nineteen of them
+// that order a work, the orders under way, and their end.
 //
 // An order costs nothing when it is placed: it becomes a row of `selects` holding the
 // statement that applies the work (the seats' finished number fixed at the order), the week
@@ -22,31 +22,54 @@ namespace game {
 // stadium changes. A work the season's close cuts short costs the budget instead.
 //
 //   Works works(context);
-//   works.order({u"Option1"_s, u"Option21"_s});   // 1000 seats and the club shop
-//   const Works::Screen screen = works.screen();  // what the stadium screen offers
+//   works.order({Works::Choice::Seats1000, Works::Choice::Shop});   // 1000 seats and the club shop
+//   const Works::Screen screen = works.screen();  // what the stadium offers now
 //   works.runWeek();                              // at each week's opening
 class Works
 {
 public:
-    // The four groups of the screen: at most one work of each under way.
+    // The four groups of works: at most one work of each under way.
     enum class Group { Seats, Parking, Equipment, Services };
+
+    // What a stadium has and the works change, with the key that names each in an order's
+    // text: gradas, parking, focos, marcadores, calefaccion, accesos, enfermeria, tienda,
+    // lavabos, cafeteria.
+    enum class Item { Seats, Parking, Lights, Scoreboards, Heating, Access, Infirmary, Shop, Toilets, Cafeterias };
+    static Group groupOf(Item item);
+    // The item of an order text's key (its first token); nothing for an unknown key.
+    static std::optional<Item> itemOfKey(const QString &key);
+
+    // Every choice the stadium offers, item by item, from the lowest step up. Most order a
+    // work; the "without" choices and the lowest level of the scoreboards, the accesses and
+    // the toilets name the state a stadium starts from and order nothing.
+    enum class Choice {
+        Seats1000, Seats2000, Seats4000,
+        NoParking, Parking,
+        Lights170kW, Lights300kW, Lights500kW,
+        ManualScoreboard, ElectronicScoreboard, VideoScoreboard,
+        NoHeating, Heating,
+        BasicAccess, FunctionalAccess, WideAccess,
+        BasicInfirmary, FullInfirmary, IntensiveCare,
+        NoShop, Shop,
+        OneToilet, FifteenToilets, FortyToilets,
+        NoCafeterias, Cafeterias,
+    };
+    // The choice as the stadium names it: "1000 asientos", "Sin Parking", "U.C.I.".
+    static QString caption(Choice choice);
 
     struct Order
     {
-        const char *box;      // the screen's box, "Option1"
-        Group group;
-        const char *caption;  // the box's caption, "1000 asientos"
+        Choice choice;
+        Item item;
         const char *text;     // the order text, "gradas 1000 1000000 12"
-        const char *column;   // the column of estadios the work sets
-        int value;            // what it sets the column to; seats added for min_gradas
+        int value;            // what the work sets the item to; seats added for the seats
         qint64 cost;
         int weeks;
     };
-    // The nineteen orders, in the order in which the screen's button tests its boxes.
+    // The nineteen orders, in the order in which they are placed when several are ticked.
     static const std::array<Order, 19> &catalogue();
-    static const Order *orderOfBox(const QString &box);
-    // The group of an order text's item key (its first token); nothing for an unknown key.
-    static std::optional<Group> groupOfKey(const QString &key);
+    // The order a choice places; nothing for a choice that names a starting state.
+    static const Order *orderOf(Choice choice);
 
     static constexpr qint64 kShopIncome = 1000;
     // Seat limits: from these capacities the 4000, the 2000 and then the 1000 extension are
@@ -77,33 +100,38 @@ public:
     // A work under way, as the "Estado de las Obras" table shows it.
     struct UnderWay
     {
-        QString key;       // token 0: gradas, parking, focos, ...
-        QString level;     // token 1
+        Item item;
+        QString level;     // token 1 of the order text: the seats added, the level reached
         qint64 cost = 0;   // token 2
         int weeksLeft = 0; // order week + weeks - current week
     };
     std::vector<UnderWay> underWay();
 
-    // What the stadium screen offers on opening: the boxes enabled and ticked, the frames
-    // closed by a work under way, the parking line and the picture (0: the design's own,
-    // below 3000 seats; 1 from 3000 seats, 2 from 4000, ... 12 from 14000).
+    // What the stadium offers as the player looks: the choices open to him, the choices that
+    // stand ticked, the items closed by a work under way, the parking line and the picture
+    // (0: the design's own, below 3000 seats; 1 from 3000 seats, 2 from 4000, ... 12 from
+    // 14000).
     struct Screen
     {
         Stadium stadium;
-        QStringList enabledBoxes;  // of Option1..Option26; none inside a closed frame
-        QStringList tickedBoxes;
-        QStringList closedFrames;  // gradas, Parking, focos, Marcadores, Accesos, cale, ...
-        QString parkingText;       // "Estadio Sin Parkings Propios" / "Estadio Con 4 Parkings"
+        std::vector<Choice> offered;   // none of an item a work under way closes
+        std::vector<Choice> ticked;    // the "without" choice of each item the stadium lacks
+        std::vector<Item> closed;
+        QString parkingText;           // "Estadio Sin Parkings Propios" / "Estadio Con 4 Parkings"
         int picture = 0;
         std::vector<UnderWay> underWay;
+
+        bool offers(Choice choice) const { return std::ranges::find(offered, choice) != offered.end(); }
+        bool isTicked(Choice choice) const { return std::ranges::find(ticked, choice) != ticked.end(); }
+        bool isClosed(Item item) const { return std::ranges::find(closed, item) != closed.end(); }
     };
     Screen screen();
     static int pictureFor(int capacity);
 
-    // Places one order for each ticked box that has one, in the catalogue's order, in one
+    // Places one order for each ticked choice that has one, in the catalogue's order, in one
     // transaction, and tells "Las Obras Empezarán en la Jornada Actual" (title
     // "Remodelación") when any was placed. No money is checked. Returns the orders placed.
-    int order(const QStringList &tickedBoxes);
+    int order(const std::vector<Choice> &ticked);
 
     // The week's stadium event: each work due ends (its message, its cost in the week's
     // ledger row, the stadium changed, its row gone), then the shop pays 1000 when the

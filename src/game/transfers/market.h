@@ -94,12 +94,6 @@ public:
     std::optional<Card> card(int player);
 
 private:
-    // How many players the four grids list, one club's players left out; and the nth of them
-    // (from 1) in id order, 0 past the last.
-    int countForSale(int exceptClub);
-    int idForSale(int exceptClub, int nth);
-    bool isForSale(int player, int exceptClub);
-
     Context m_context;
 };
 

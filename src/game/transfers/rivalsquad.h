@@ -3,6 +3,8 @@
 #include "league/fixture.h"
 #include "context.h"
 
+#include <QString>
+
 #include <optional>
 
 namespace game {
@@ -18,6 +20,17 @@ class RivalSquad
 public:
     // After this many draws without a candidate the lowest id that qualifies is taken.
     static constexpr int kMaxDraws = 20000;
+
+    // A player as a starter's row in jugar repeats him.
+    struct Player
+    {
+        int id = 0;
+        int club = 0;
+        QString nombre;
+        QString apellidos;
+        int media = 0;
+        QString posicion;
+    };
 
     explicit RivalSquad(Context context) : m_context(context) {}
 

@@ -1,8 +1,8 @@
 #include "youthacademy.h"
 
-#include "league/leagueclubs.h"
 #include "dialogs.h"
 #include "store/gamestore.h"
+#include "transfers/statements.h"
 
 #include <QObject>
 
@@ -46,14 +46,8 @@ int YouthAcademy::add(const NewYouth &youth)
     const Result written = store.run([&] {
         // Ids follow the highest one, so they stay without gaps: the random draws of players
         // count on every id up to the number of players existing.
-        id = static_cast<int>(store.integer("select max(idjugador) from jugadores")) + 1;
-        // Every youth joins on the same terms: a rating of 95, a clause of 36150 €, a wage of
-        // 1000 € a season, no injury, not on the market, a contract of five years.
-        store.execute("insert into jugadores (idjugador, idequipo, Nombre, Apellidos, Edad, Posicion, Media, Dorsal,"
-                      " Nacionalidad, Clausula_Recision, Ficha, Lesiones, venta, libre1, libre2, libre3,"
-                      " \"Años_Contrato\") values (?, ?, ?, ?, ?, ?, 95, ?, ?, 36150, 1000, 0, 0, 0, 0, 0, 5)",
-                      id, kYouthPool, youth.nombre, youth.apellidos, edad, youth.posicion, dorsal,
-                      youth.nacionalidad);
+        id = sql::transfers::highestPlayerId(store) + 1;
+        sql::transfers::addYouth(store, id, youth, edad, dorsal);
     });
     if (!written) {
         dialogs.tell(written.message(), Dialogs::Icon::Exclamation);

@@ -26,12 +26,8 @@ namespace {
 
 const QSize kPictureSize(360, 236);
 
-// The boxes that name the state a stadium starts from. They order nothing, so the catalogue
-// of works does not hold them.
-const std::pair<int, const char *> kStartingStates[] = {{4, "Sin Parking"},   {13, "MANUAL"},
-                                                        {10, "Sin Calefacción"}, {16, "BÁSICOS"},
-                                                        {20, "Sin Tiendas"},  {22, "Sin Cafeterías"},
-                                                        {24, "1 Lavabo"}};
+using Choice = game::Works::Choice;
+using Item = game::Works::Item;
 
 // Equipment boxes 6 to 16 are one choice, service boxes 17 to 26 another: a click on one
 // clears the rest of its choice, also in the frames out of sight, so one press of
@@ -40,10 +36,21 @@ constexpr int kFirstEquipment = 6;
 constexpr int kFirstService = 17;
 constexpr int kBoxes = 26;
 
+// The choice of the stadium that each box, Option1 to Option26, stands for.
+constexpr std::array<Choice, kBoxes> kChoiceOfBox{
+    Choice::Seats1000,        Choice::Seats2000,      Choice::Seats4000,            Choice::NoParking,
+    Choice::Parking,          Choice::Lights170kW,    Choice::Lights300kW,          Choice::Lights500kW,
+    Choice::Heating,          Choice::NoHeating,      Choice::VideoScoreboard,      Choice::ElectronicScoreboard,
+    Choice::ManualScoreboard, Choice::WideAccess,     Choice::FunctionalAccess,     Choice::BasicAccess,
+    Choice::BasicInfirmary,   Choice::FullInfirmary,  Choice::IntensiveCare,        Choice::NoShop,
+    Choice::Shop,             Choice::NoCafeterias,   Choice::Cafeterias,           Choice::OneToilet,
+    Choice::FifteenToilets,   Choice::FortyToilets};
+
 // An inner frame of the equipment or the services: its button, its frame and its boxes in the
 // order they are shown (the lowest step first).
 struct ItemFrame
 {
+    Item item;
     const char *button;
     const char *buttonCaption;
     const char *frame;
@@ -51,20 +58,36 @@ struct ItemFrame
     std::array<int, 3> boxes; // 0: no box
 };
 
-const ItemFrame kEquipment[] = {{"cmdFocos", "Focos", "focos", "Focos", {6, 7, 8}},
-                                {"cmdMarcadores", "Marcadores", "Marcadores", "Marcadores", {13, 12, 11}},
-                                {"cmdCalefaccion", "Calefacción", "cale", "Calefacción", {10, 9, 0}},
-                                {"cmdAccesos", "Accesos al Estadio", "Accesos", "Accesos", {16, 15, 14}}};
-const ItemFrame kServices[] = {{"cmdEnfermería", "Enfermería", "Enfermeria", "Enfermería", {17, 18, 19}},
-                               {"cmdTienda", "Tienda del Club", "Tienda", "Tienda del Club", {20, 21, 0}},
-                               {"cmdCafetería", "Cafetería", "Cafeteria", "Cafetería", {22, 23, 0}},
-                               {"cmdWc", "W.C.", "wc", "W. C.", {24, 25, 26}}};
+const ItemFrame kEquipment[] = {{Item::Lights, "cmdFocos", "Focos", "focos", "Focos", {6, 7, 8}},
+                                {Item::Scoreboards, "cmdMarcadores", "Marcadores", "Marcadores", "Marcadores", {13, 12, 11}},
+                                {Item::Heating, "cmdCalefaccion", "Calefacción", "cale", "Calefacción", {10, 9, 0}},
+                                {Item::Access, "cmdAccesos", "Accesos al Estadio", "Accesos", "Accesos", {16, 15, 14}}};
+const ItemFrame kServices[] = {{Item::Infirmary, "cmdEnfermería", "Enfermería", "Enfermeria", "Enfermería", {17, 18, 19}},
+                               {Item::Shop, "cmdTienda", "Tienda del Club", "Tienda", "Tienda del Club", {20, 21, 0}},
+                               {Item::Cafeterias, "cmdCafetería", "Cafetería", "Cafeteria", "Cafetería", {22, 23, 0}},
+                               {Item::Toilets, "cmdWc", "W.C.", "wc", "W. C.", {24, 25, 26}}};
 
-// The rows of "Estado de las Obras", by the item key of a work: its name cell (with the index
+// The frame that holds an item's boxes: the seats and the parking have frames of their own.
+QString frameOf(Item item)
+{
+    if (item == Item::Seats)
+        return QStringLiteral("gradas");
+    if (item == Item::Parking)
+        return QStringLiteral("Parking");
+    for (const auto &frames : {std::span<const ItemFrame>(kEquipment), std::span<const ItemFrame>(kServices)}) {
+        for (const ItemFrame &frame : frames) {
+            if (frame.item == item)
+                return QString::fromUtf8(frame.frame);
+        }
+    }
+    return {};
+}
+
+// The rows of "Estado de las Obras", by the item of a work: its name cell (with the index
 // of the repeated name labels), its price and weeks cells, and the name the row carries.
 struct WorksRow
 {
-    const char *key;
+    Item item;
     const char *nameCell;
     int nameIndex; // -1: a single label
     const char *priceCell;
@@ -74,16 +97,16 @@ struct WorksRow
 };
 
 const WorksRow kWorksRows[] = {
-    {"gradas", "lblAsientos", -1, "gpagar", "gsemanas", -1, ""},
-    {"parking", "lblParking", -1, "Ppagar", "psemanas", -1, ""},
-    {"focos", "lblEquipamiento", 0, "EPF", "EFS", 0, "  FOCOS"},
-    {"calefaccion", "lblEquipamiento", 1, "EPF", "EFS", 1, "  CALEFACCIÓN"},
-    {"marcadores", "lblEquipamiento", 2, "EPF", "EFS", 2, "  MARCADORES"},
-    {"accesos", "lblEquipamiento", 3, "EPF", "EFS", 3, "  ACCESOS"},
-    {"enfermeria", "lblServicios", 4, "SEP", "SES", 0, "  ENFERMERIA"},
-    {"tienda", "lblServicios", 5, "SEP", "SES", 1, "  TIENDA"},
-    {"lavabos", "lblServicios", 6, "SEP", "SES", 2, "  LAVABOS"},
-    {"cafeteria", "lblServicios", 7, "SEP", "SES", 3, "  CAFETERÍA"},
+    {Item::Seats, "lblAsientos", -1, "gpagar", "gsemanas", -1, ""},
+    {Item::Parking, "lblParking", -1, "Ppagar", "psemanas", -1, ""},
+    {Item::Lights, "lblEquipamiento", 0, "EPF", "EFS", 0, "  FOCOS"},
+    {Item::Heating, "lblEquipamiento", 1, "EPF", "EFS", 1, "  CALEFACCIÓN"},
+    {Item::Scoreboards, "lblEquipamiento", 2, "EPF", "EFS", 2, "  MARCADORES"},
+    {Item::Access, "lblEquipamiento", 3, "EPF", "EFS", 3, "  ACCESOS"},
+    {Item::Infirmary, "lblServicios", 4, "SEP", "SES", 0, "  ENFERMERIA"},
+    {Item::Shop, "lblServicios", 5, "SEP", "SES", 1, "  TIENDA"},
+    {Item::Toilets, "lblServicios", 6, "SEP", "SES", 2, "  LAVABOS"},
+    {Item::Cafeterias, "lblServicios", 7, "SEP", "SES", 3, "  CAFETERÍA"},
 };
 
 // The cells of the works table: dark on light, so that a work's black price reads; a work
@@ -305,13 +328,7 @@ StadiumScreen::StadiumScreen(game::Context context, game::Week &week, QWidget *p
 
 QAbstractButton *StadiumScreen::makeBox(int number)
 {
-    QString caption;
-    if (const game::Works::Order *order = game::Works::orderOfBox(boxName(number)))
-        caption = QString::fromUtf8(order->caption);
-    for (const auto &[state, text] : kStartingStates) {
-        if (state == number)
-            caption = QString::fromUtf8(text);
-    }
+    const QString caption = game::Works::caption(kChoiceOfBox[std::size_t(number - 1)]);
     QAbstractButton *box = nullptr;
     if (number <= 5) {
         box = new QRadioButton(caption);
@@ -541,14 +558,13 @@ void StadiumScreen::load()
     findChild<QLabel *>(QStringLiteral("lblSIparking"))->setText(screen.parkingText);
     m_picture->setPixmap(stadiumPicture(screen.picture, kPictureSize));
 
-    for (int number = 1; number <= kBoxes; ++number) {
-        QAbstractButton *box = m_boxes[std::size_t(number - 1)];
-        box->setEnabled(screen.enabledBoxes.contains(boxName(number)));
-        if (screen.tickedBoxes.contains(boxName(number)))
-            box->setChecked(true);
+    for (std::size_t box = 0; box < m_boxes.size(); ++box) {
+        m_boxes[box]->setEnabled(screen.offers(kChoiceOfBox[box]));
+        if (screen.isTicked(kChoiceOfBox[box]))
+            m_boxes[box]->setChecked(true);
     }
-    for (const QString &closed : screen.closedFrames) {
-        if (auto *group = findChild<QGroupBox *>(closed))
+    for (const Item closed : screen.closed) {
+        if (auto *group = findChild<QGroupBox *>(frameOf(closed)))
             group->setEnabled(false);
     }
     for (const game::Works::UnderWay &work : screen.underWay)
@@ -567,7 +583,7 @@ void StadiumScreen::load()
 void StadiumScreen::showUnderWay(const game::Works::UnderWay &work)
 {
     for (const WorksRow &line : kWorksRows) {
-        if (work.key != QLatin1String(line.key))
+        if (work.item != line.item)
             continue;
         auto cellOf = [this](const char *name, int index) {
             return index < 0 ? findChild<QLabel *>(QString::fromLatin1(name))
@@ -577,9 +593,9 @@ void StadiumScreen::showUnderWay(const game::Works::UnderWay &work)
         QLabel *price = cellOf(line.priceCell, line.index);
         QLabel *weeks = cellOf(line.weeksCell, line.index);
         // The seats' row names the seats being added; the parking's row the four parkings.
-        if (work.key == QLatin1String("gradas"))
+        if (work.item == Item::Seats)
             nameCell->setText(work.level);
-        else if (work.key == QLatin1String("parking"))
+        else if (work.item == Item::Parking)
             nameCell->setText(tr("4 Parkings"));
         price->setText(QString::number(work.cost));
         weeks->setText(QString::number(work.weeksLeft));
@@ -605,10 +621,10 @@ void StadiumScreen::orderWorks()
 {
     // The boxes stay as they are and the screen is not read again: a work ordered now shows
     // under way, and closes its group, the next time the screen opens.
-    QStringList ticked;
-    for (QAbstractButton *box : m_boxes) {
-        if (box->isChecked())
-            ticked << box->objectName();
+    std::vector<game::Works::Choice> ticked;
+    for (std::size_t box = 0; box < m_boxes.size(); ++box) {
+        if (m_boxes[box]->isChecked())
+            ticked.push_back(kChoiceOfBox[box]);
     }
     game::Works(m_context).order(ticked);
 }

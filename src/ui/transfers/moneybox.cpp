@@ -1,6 +1,7 @@
 #include "moneybox.h"
 
 #include "common/theme.h"
+#include "transfers/terms.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -55,19 +56,9 @@ QWidget *captioned(const QString &caption, QLayout *row)
 
 } // namespace
 
-QString digitsOf(const QString &text)
-{
-    QString digits;
-    for (const QChar c : text) {
-        if (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
-            digits += c;
-    }
-    return digits;
-}
-
 QString moneyText(const QString &text)
 {
-    return text.isEmpty() ? QString() : digitsOf(text) + QStringLiteral(" €");
+    return text.isEmpty() ? QString() : game::digitsOf(text) + QStringLiteral(" €");
 }
 
 MoneyBox::MoneyBox(const char *name, QWidget *parent) : QLineEdit(parent)
@@ -82,7 +73,7 @@ MoneyBox::MoneyBox(const char *name, QWidget *parent) : QLineEdit(parent)
         if (text.isEmpty())
             setText(QStringLiteral("1 €"));
         else if (!onlyDigitsAndSign(text))
-            setText(digitsOf(text));
+            setText(game::digitsOf(text));
     });
 }
 
@@ -93,14 +84,14 @@ void MoneyBox::stepUp()
 
 void MoneyBox::stepDown()
 {
-    const QString digits = digitsOf(text());
+    const QString digits = game::digitsOf(text());
     if (digits.size() <= 18 && digits.toLongLong() > 1)
         step(-kStep);
 }
 
 void MoneyBox::step(qint64 change)
 {
-    const QString digits = digitsOf(text());
+    const QString digits = game::digitsOf(text());
     // A sum of more digits than any number holds is left as typed; the offer refuses it.
     if (digits.size() > 18)
         return;
@@ -205,15 +196,14 @@ void YearsBox::check(const QString &text)
 {
     // A contract runs 1 to 6 years; anything else in the box reads as one year. A number the
     // bar can show moves the bar with it.
-    bool number = false;
-    const int years = text.toInt(&number);
-    if (!number || years < kFewest || years > kMostTyped) {
+    const std::optional<int> years = game::typedYears(text);
+    if (!years) {
         setText(QString::number(kFewest));
         return;
     }
-    if (years <= kMostOnTheBar && m_bar->value() != years) {
+    if (*years <= kMostOnTheBar && m_bar->value() != *years) {
         const QSignalBlocker quiet(m_bar);
-        m_bar->setValue(years);
+        m_bar->setValue(*years);
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "transfers/terms.h"
+
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QObject>
@@ -12,8 +14,6 @@ class QVBoxLayout;
 
 namespace ui {
 
-// The digits of a text, in their order: what a money box holds, whatever else stands in it.
-QString digitsOf(const QString &text);
 // How a money box shows its sum: the digits, a blank and the euro sign. An empty text stays
 // empty, and a text that reads so already comes back the same.
 QString moneyText(const QString &text);
@@ -78,9 +78,8 @@ class YearsBox : public QLineEdit
     Q_OBJECT
 
 public:
-    static constexpr int kFewest = 1;
+    static constexpr int kFewest = game::kFewestContractYears;
     static constexpr int kMostOnTheBar = 5;
-    static constexpr int kMostTyped = 6;
 
     explicit YearsBox(QWidget *parent = nullptr);
 

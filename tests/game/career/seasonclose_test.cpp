@@ -98,7 +98,7 @@ TEST_F(SeasonCloseTest, settlesEveryOrderAtOnceFromTheBudget)
         m_store->execute("update datos_jugador set jornada = 32");
     }).ok());
     game::Works works(*m_context);
-    ASSERT_EQ(works.order({QStringLiteral("Option21"), QStringLiteral("Option2")}), 2);
+    ASSERT_EQ(works.order({game::Works::Choice::Shop, game::Works::Choice::Seats2000}), 2);
     const int player = int(m_store->integer("select min(idjugador) from jugadores where idequipo = 40"));
     const int clause = int(m_store->integer("select Clausula_Recision from jugadores where idjugador = ?", player));
     const int wage = int(m_store->integer("select Ficha from jugadores where idjugador = ?", player));

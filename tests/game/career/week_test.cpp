@@ -330,7 +330,7 @@ TEST_F(WeekTest, theStandardEventsTellTheLoadingMessageEveryWeekAndEndTheWorks)
     }).ok());
     Week week(*m_context);
     ASSERT_TRUE(week.open());
-    ASSERT_EQ(game::Works(*m_context).order({QStringLiteral("Option17")}), 1); // ends in week 5
+    ASSERT_EQ(game::Works(*m_context).order({game::Works::Choice::BasicInfirmary}), 1); // ends in week 5
     m_dialogs.clear();
     const QString loading = QStringLiteral("Cargando... Pulse Aceptar para continuar");
     for (int number = 2; number <= 5; ++number) {

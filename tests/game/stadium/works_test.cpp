@@ -9,6 +9,9 @@
 
 using game::Ledger;
 using game::Works;
+using Choice = Works::Choice;
+using Item = Works::Item;
+using Choices = std::vector<Choice>;
 
 // The user's club (4) in a season of thirty weeks, with week 1 open and the stadium's own
 // events left to each test: Works::runWeek is called by hand after a week opens.
@@ -64,28 +67,26 @@ protected:
 // weeks than its own figures, so the screen promises one thing and the week books another.
 TEST(WorksCatalogue, eachOrderTextCarriesItsOwnKeyCostAndWeeks)
 {
-    const std::map<std::string, std::string> columnOfKey{
-        {"gradas", "min_gradas"}, {"parking", "parking"},       {"focos", "focos"},
-        {"marcadores", "marcadores"}, {"calefaccion", "calefaccion"}, {"accesos", "accesos"},
-        {"enfermeria", "enfermeria"}, {"tienda", "tienda"},     {"lavabos", "lavabos"},
-        {"cafeteria", "cafeteria"}};
-    QStringList boxes;
+    Choices choices;
     for (const Works::Order &order : Works::catalogue()) {
         const QStringList tokens = QString::fromUtf8(order.text).split(QLatin1Char(' '));
         ASSERT_EQ(tokens.size(), 4) << order.text;
-        EXPECT_EQ(columnOfKey.at(tokens[0].toStdString()), order.column) << order.text;
+        EXPECT_EQ(Works::itemOfKey(tokens[0]), order.item) << order.text;
         EXPECT_EQ(tokens[2].toLongLong(), order.cost) << order.text;
         EXPECT_EQ(tokens[3].toInt(), order.weeks) << order.text;
-        EXPECT_EQ(Works::groupOfKey(tokens[0]), order.group) << order.text;
-        EXPECT_EQ(Works::orderOfBox(QString::fromUtf8(order.box)), &order);
-        boxes << QString::fromUtf8(order.box);
+        EXPECT_EQ(Works::orderOf(order.choice), &order);
+        choices.push_back(order.choice);
     }
-    EXPECT_EQ(boxes.join(QLatin1Char(' ')),
-              QStringLiteral("Option1 Option2 Option3 Option5 Option6 Option7 Option8 Option12 Option11 Option9"
-                             " Option15 Option14 Option17 Option18 Option19 Option21 Option25 Option26 Option23"));
-    // The boxes that name the starting state order nothing.
-    for (const char *none : {"Option4", "Option13", "Option10", "Option16", "Option20", "Option22", "Option24"})
-        EXPECT_EQ(Works::orderOfBox(QString::fromUtf8(none)), nullptr) << none;
+    EXPECT_EQ(choices, (Choices{Choice::Seats1000, Choice::Seats2000, Choice::Seats4000, Choice::Parking,
+                                Choice::Lights170kW, Choice::Lights300kW, Choice::Lights500kW,
+                                Choice::ElectronicScoreboard, Choice::VideoScoreboard, Choice::Heating,
+                                Choice::FunctionalAccess, Choice::WideAccess, Choice::BasicInfirmary,
+                                Choice::FullInfirmary, Choice::IntensiveCare, Choice::Shop, Choice::FifteenToilets,
+                                Choice::FortyToilets, Choice::Cafeterias}));
+    // The choices that name the starting state order nothing.
+    for (const Choice none : {Choice::NoParking, Choice::ManualScoreboard, Choice::NoHeating, Choice::BasicAccess,
+                              Choice::NoShop, Choice::NoCafeterias, Choice::OneToilet})
+        EXPECT_EQ(Works::orderOf(none), nullptr) << Works::caption(none).toStdString();
 }
 
 // Guards: orders written out of the catalogue's order, a seats order holding the increment
@@ -97,9 +98,8 @@ TEST_F(WorksTest, anOrderWritesOneRowPerTickedWorkWithTheCapacityFixedNow)
     ASSERT_TRUE(m_store->run([&] { m_store->execute("update infoteams set presupuesto = -5 where idequipo = ?", kClub); }).ok());
     const QString ledgerBefore = dump("caja");
 
-    const int placed = Works(*m_context).order({QStringLiteral("Option21"), QStringLiteral("Option4"),
-                                                QStringLiteral("Option6"), QStringLiteral("Option1"),
-                                                QStringLiteral("Option5")});
+    const int placed = Works(*m_context).order(
+        {Choice::Shop, Choice::NoParking, Choice::Lights170kW, Choice::Seats1000, Choice::Parking});
 
     EXPECT_EQ(placed, 4);
     EXPECT_EQ(dump("selects"),
@@ -122,7 +122,7 @@ TEST_F(WorksTest, anOrderWritesOneRowPerTickedWorkWithTheCapacityFixedNow)
 
     // Boxes without an order, or none at all: no row and not a word.
     m_dialogs.clear();
-    EXPECT_EQ(Works(*m_context).order({QStringLiteral("Option4"), QStringLiteral("Option20")}), 0);
+    EXPECT_EQ(Works(*m_context).order({Choice::NoParking, Choice::NoShop}), 0);
     EXPECT_EQ(Works(*m_context).order({}), 0);
     EXPECT_EQ(count("selects"), 4);
     EXPECT_TRUE(m_dialogs.messages().empty());
@@ -135,8 +135,8 @@ TEST_F(WorksTest, seatOrdersSetTheCapacityFixedAtTheOrderAndTheLastToEndDecides)
 {
     setStadium({{"min_gradas", 15000}});
     Works works(*m_context);
-    ASSERT_EQ(works.order({QStringLiteral("Option1")}), 1); // ends in week 13 at 16000
-    ASSERT_EQ(works.order({QStringLiteral("Option2")}), 1); // ends in week 18 at 17000
+    ASSERT_EQ(works.order({Choice::Seats1000}), 1); // ends in week 13 at 16000
+    ASSERT_EQ(works.order({Choice::Seats2000}), 1); // ends in week 18 at 17000
     setStadium({{"min_gradas", 15500}});                     // changed meanwhile
 
     openUntil(13);
@@ -163,18 +163,19 @@ class SeatLimits : public WorksTest, public ::testing::WithParamInterface<SeatLi
 TEST_P(SeatLimits, offerOnlyTheExtensionsThatStayWithinTwentyThousandSeats)
 {
     setStadium({{"min_gradas", GetParam().capacity}});
+    const Works::Screen screen = Works(*m_context).screen();
     QStringList seats;
-    for (const QString &box : Works(*m_context).screen().enabledBoxes) {
-        if (box == QLatin1String("Option1") || box == QLatin1String("Option2") || box == QLatin1String("Option3"))
-            seats << box;
+    for (const Choice extension : {Choice::Seats1000, Choice::Seats2000, Choice::Seats4000}) {
+        if (screen.offers(extension))
+            seats << QString::number(Works::orderOf(extension)->value);
     }
     EXPECT_EQ(seats.join(QLatin1Char(' ')), QString::fromUtf8(GetParam().offered));
 }
 
 INSTANTIATE_TEST_SUITE_P(Capacities, SeatLimits,
-                         ::testing::Values(SeatLimit{16000, "Option1 Option2 Option3"}, SeatLimit{16001, "Option1 Option2"},
-                                           SeatLimit{18000, "Option1 Option2"}, SeatLimit{18001, "Option1"},
-                                           SeatLimit{19000, "Option1"}, SeatLimit{19001, ""},
+                         ::testing::Values(SeatLimit{16000, "1000 2000 4000"}, SeatLimit{16001, "1000 2000"},
+                                           SeatLimit{18000, "1000 2000"}, SeatLimit{18001, "1000"},
+                                           SeatLimit{19000, "1000"}, SeatLimit{19001, ""},
                                            SeatLimit{25000, ""}),
                          [](const auto &info) { return "seats" + std::to_string(info.param.capacity); });
 
@@ -185,21 +186,22 @@ TEST_F(WorksTest, theScreenOffersTheNextStepOfEachItemAndNothingBuiltTwice)
     setStadium({{"min_gradas", 4800}, {"focos", 1}, {"marcadores", 0}, {"accesos", 3}, {"enfermeria", 2},
                 {"lavabos", 1}, {"tienda", 0}, {"cafeteria", 1}, {"calefaccion", 0}, {"parking", 1}});
     const Works::Screen screen = Works(*m_context).screen();
-    EXPECT_EQ(screen.enabledBoxes.join(QLatin1Char(' ')),
-              QStringLiteral("Option1 Option2 Option3 Option7 Option13 Option10 Option9 Option19 Option20 Option21"
-                             " Option25"));
-    EXPECT_EQ(screen.tickedBoxes.join(QLatin1Char(' ')), QStringLiteral("Option10 Option20"));
+    EXPECT_EQ(screen.offered, (Choices{Choice::Seats1000, Choice::Seats2000, Choice::Seats4000, Choice::Lights300kW,
+                                       Choice::ManualScoreboard, Choice::NoHeating, Choice::Heating,
+                                       Choice::IntensiveCare, Choice::NoShop, Choice::Shop, Choice::FifteenToilets}));
+    EXPECT_EQ(screen.ticked, (Choices{Choice::NoHeating, Choice::NoShop}));
     EXPECT_EQ(screen.parkingText, QStringLiteral("Estadio Con 4 Parkings"));
-    EXPECT_TRUE(screen.closedFrames.isEmpty());
+    EXPECT_TRUE(screen.closed.empty());
     EXPECT_EQ(screen.stadium.name, QStringLiteral("Pabellón Universitario de Navarra"));
     EXPECT_EQ(screen.picture, 2);
 
     // A level the tables do not know changes no box; a missing parking is offered.
     setStadium({{"focos", 7}, {"parking", 0}});
     const Works::Screen odd = Works(*m_context).screen();
-    for (const char *box : {"Option6", "Option7", "Option8", "Option4", "Option5"})
-        EXPECT_TRUE(odd.enabledBoxes.contains(QString::fromUtf8(box))) << box;
-    EXPECT_TRUE(odd.tickedBoxes.contains(QStringLiteral("Option4")));
+    for (const Choice choice :
+         {Choice::Lights170kW, Choice::Lights300kW, Choice::Lights500kW, Choice::NoParking, Choice::Parking})
+        EXPECT_TRUE(odd.offers(choice)) << Works::caption(choice).toStdString();
+    EXPECT_TRUE(odd.isTicked(Choice::NoParking));
     EXPECT_EQ(odd.parkingText, QStringLiteral("Estadio Sin Parkings Propios"));
 }
 
@@ -209,8 +211,8 @@ TEST_F(WorksTest, aStadiumWithEverythingBuiltOffersNothingToOrder)
     setStadium({{"min_gradas", 19001}, {"focos", 3}, {"marcadores", 3}, {"accesos", 3}, {"enfermeria", 3},
                 {"lavabos", 3}, {"tienda", 1}, {"cafeteria", 1}, {"calefaccion", 1}, {"parking", 1}});
     const Works::Screen screen = Works(*m_context).screen();
-    EXPECT_TRUE(screen.enabledBoxes.isEmpty()) << screen.enabledBoxes.join(QLatin1Char(' ')).toStdString();
-    EXPECT_EQ(Works(*m_context).order(screen.enabledBoxes), 0);
+    EXPECT_TRUE(screen.offered.empty()) << Works::caption(screen.offered.front()).toStdString();
+    EXPECT_EQ(Works(*m_context).order(screen.offered), 0);
     EXPECT_EQ(count("selects"), 0);
 }
 
@@ -228,34 +230,37 @@ TEST_F(WorksTest, aWorkUnderWayClosesItsGroupAndAServiceWorkTheHeatingToo)
                          " 'grada 1000 1000000 12', ' ')");
     }).ok());
     const Works::Screen open = works.screen();
-    EXPECT_TRUE(open.closedFrames.isEmpty());
+    EXPECT_TRUE(open.closed.empty());
     EXPECT_TRUE(open.underWay.empty());
 
-    ASSERT_EQ(works.order({QStringLiteral("Option21")}), 1); // the shop, seven weeks
+    ASSERT_EQ(works.order({Choice::Shop}), 1); // the shop, seven weeks
     openUntil(3);
     const Works::Screen services = works.screen();
-    EXPECT_EQ(services.closedFrames.join(QLatin1Char(' ')), QStringLiteral("cale Enfermeria Tienda Cafeteria wc"));
-    EXPECT_EQ(services.enabledBoxes.join(QLatin1Char(' ')),
-              QStringLiteral("Option1 Option2 Option3 Option4 Option5 Option6 Option12 Option15"));
+    EXPECT_EQ(services.closed,
+              (std::vector<Item>{Item::Heating, Item::Infirmary, Item::Shop, Item::Toilets, Item::Cafeterias}));
+    EXPECT_EQ(services.offered, (Choices{Choice::Seats1000, Choice::Seats2000, Choice::Seats4000, Choice::NoParking,
+                                         Choice::Parking, Choice::Lights170kW, Choice::ElectronicScoreboard,
+                                         Choice::FunctionalAccess}));
     ASSERT_EQ(services.underWay.size(), 1u);
-    EXPECT_EQ(services.underWay[0].key, QStringLiteral("tienda"));
+    EXPECT_EQ(services.underWay[0].item, Item::Shop);
     EXPECT_EQ(services.underWay[0].level, QStringLiteral("0"));
     EXPECT_EQ(services.underWay[0].cost, 90000);
     EXPECT_EQ(services.underWay[0].weeksLeft, 5); // ordered in week 1, seven weeks, now week 3
 
-    ASSERT_EQ(works.order({QStringLiteral("Option6"), QStringLiteral("Option1")}), 2);
+    ASSERT_EQ(works.order({Choice::Lights170kW, Choice::Seats1000}), 2);
     const Works::Screen all = works.screen();
-    EXPECT_EQ(all.closedFrames.join(QLatin1Char(' ')),
-              QStringLiteral("gradas focos Marcadores Accesos cale Enfermeria Tienda Cafeteria wc"));
-    EXPECT_EQ(all.enabledBoxes.join(QLatin1Char(' ')), QStringLiteral("Option4 Option5"));
+    EXPECT_EQ(all.closed, (std::vector<Item>{Item::Seats, Item::Lights, Item::Scoreboards, Item::Heating, Item::Access,
+                                             Item::Infirmary, Item::Shop, Item::Toilets, Item::Cafeterias}));
+    EXPECT_EQ(all.offered, (Choices{Choice::NoParking, Choice::Parking}));
 
     // The shop ends in week 8: its group opens again at the next look, the others stay shut.
     openUntil(8);
     ASSERT_EQ(works.runWeek(), 1);
     const Works::Screen after = works.screen();
-    EXPECT_EQ(after.closedFrames.join(QLatin1Char(' ')), QStringLiteral("gradas focos Marcadores Accesos cale"));
-    EXPECT_TRUE(after.enabledBoxes.contains(QStringLiteral("Option17")));
-    EXPECT_FALSE(after.enabledBoxes.contains(QStringLiteral("Option21"))); // built now
+    EXPECT_EQ(after.closed,
+              (std::vector<Item>{Item::Seats, Item::Lights, Item::Scoreboards, Item::Heating, Item::Access}));
+    EXPECT_TRUE(after.offers(Choice::BasicInfirmary));
+    EXPECT_FALSE(after.offers(Choice::Shop)); // built now
     EXPECT_EQ(count("selects where observaciones = ' '"), 1);
 }
 
@@ -265,7 +270,7 @@ TEST_F(WorksTest, aWorkEndsAtTheOpeningOfItsOrderWeekPlusItsWeeks)
 {
     setStadium({{"focos", 0}, {"tienda", 0}});
     Works works(*m_context);
-    ASSERT_EQ(works.order({QStringLiteral("Option6")}), 1); // week 1, six weeks
+    ASSERT_EQ(works.order({Choice::Lights170kW}), 1); // week 1, six weeks
     m_dialogs.clear();
     for (int week = 2; week <= 6; ++week) {
         openUntil(week);
@@ -296,8 +301,8 @@ TEST_F(WorksTest, twoIdenticalOrdersBothEndAndAreEachChargedOnce)
     setStadium({{"enfermeria", 0}, {"tienda", 0}});
     Works works(*m_context);
     insertOffer(1);
-    ASSERT_EQ(works.order({QStringLiteral("Option17")}), 1);
-    ASSERT_EQ(works.order({QStringLiteral("Option17")}), 1); // pressed again on the same screen
+    ASSERT_EQ(works.order({Choice::BasicInfirmary}), 1);
+    ASSERT_EQ(works.order({Choice::BasicInfirmary}), 1); // pressed again on the same screen
     const QString offer = dump("selects").section(QLatin1Char('\n'), 0, 0);
     m_dialogs.clear();
 
@@ -309,9 +314,9 @@ TEST_F(WorksTest, twoIdenticalOrdersBothEndAndAreEachChargedOnce)
     EXPECT_EQ(dump("selects"), offer + QLatin1Char('\n'));
 
     // The same text ordered a week apart: the first to end takes only its own row.
-    ASSERT_EQ(works.order({QStringLiteral("Option18")}), 1); // week 5, ends in week 9
+    ASSERT_EQ(works.order({Choice::FullInfirmary}), 1); // week 5, ends in week 9
     openUntil(6);
-    ASSERT_EQ(works.order({QStringLiteral("Option18")}), 1); // week 6, ends in week 10
+    ASSERT_EQ(works.order({Choice::FullInfirmary}), 1); // week 6, ends in week 10
     openUntil(9);
     EXPECT_EQ(works.runWeek(), 1);
     EXPECT_EQ(count("selects where observaciones = 'enfermeria 2 60000 4'"), 1);
@@ -330,7 +335,7 @@ TEST_F(WorksTest, anOrderThatCannotBeAppliedIsStillChargedAndTheWalkGoesOn)
                          " 'focos 1 120000 6', 'x')");
     }).ok());
     Works works(*m_context);
-    ASSERT_EQ(works.order({QStringLiteral("Option7")}), 1);
+    ASSERT_EQ(works.order({Choice::Lights300kW}), 1);
     openUntil(7);
     EXPECT_EQ(works.runWeek(), 2);
     EXPECT_EQ(row(7).remodelaciones, 240000);
@@ -348,14 +353,14 @@ TEST_F(WorksTest, theShopPaysEveryWeekItStandsFromTheWeekItIsBuilt)
     EXPECT_EQ(row(1).tiendas, 1000);
     EXPECT_EQ(row(1).ingresos, 1000);
 
-    ASSERT_EQ(works.order({QStringLiteral("Option6")}), 1); // a work under way changes nothing
+    ASSERT_EQ(works.order({Choice::Lights170kW}), 1); // a work under way changes nothing
     openUntil(2);
     works.runWeek();
     EXPECT_EQ(row(2).tiendas, 1000);
 
     // Without a shop nothing comes until the one ordered now is built, that very week.
     setStadium({{"tienda", 0}});
-    ASSERT_EQ(works.order({QStringLiteral("Option21")}), 1); // week 2, seven weeks
+    ASSERT_EQ(works.order({Choice::Shop}), 1); // week 2, seven weeks
     for (int week = 3; week <= 8; ++week) {
         openUntil(week);
         works.runWeek();
@@ -375,7 +380,7 @@ TEST_F(WorksTest, theSeasonsCloseEndsEveryWorkAtTheBudgetsCost)
     setStadium({{"min_gradas", 5000}, {"cafeteria", 0}});
     insertOffer(1);
     Works works(*m_context);
-    ASSERT_EQ(works.order({QStringLiteral("Option3"), QStringLiteral("Option23")}), 2);
+    ASSERT_EQ(works.order({Choice::Seats4000, Choice::Cafeterias}), 2);
     const qint64 budgetBefore = budget();
     const QString ledgerBefore = dump("caja");
     m_dialogs.clear();
