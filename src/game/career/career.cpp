@@ -146,10 +146,23 @@ bool Career::finishMatch()
 {
     if (m_stage != Stage::Week || !m_match || !m_match->finished())
         return false;
-    const bool recorded = m_week.recordResult(m_match->score(0), m_match->score(1));
+    // The score and the user's scorers of the season go together.
+    GameStore &store = m_context.store;
+    bool recorded = false;
+    const Result written = store.run([&] {
+        recorded = m_week.recordResult(m_match->score(0), m_match->score(1));
+        if (!recorded)
+            return;
+        for (const auto &[player, goals] : m_match->scorers()) {
+            if (player > 0)
+                sql::career::addGoals(store, m_season, player, goals);
+        }
+    });
+    if (!written)
+        m_context.dialogs.tell(written.message(), Dialogs::Icon::Exclamation);
     // Recorded or not, this match is over: a score that could not be written is played again.
     m_match.reset();
-    if (!recorded)
+    if (!written || !recorded)
         return false;
     m_stage = Stage::Played;
     return openWeek();

@@ -5,6 +5,7 @@
 #include "stadium/works.h"
 #include "career/statements.h"
 #include "store/gamestore.h"
+#include "transfers/statements.h"
 #include "transfers/offers.h"
 
 #include <vector>
@@ -83,11 +84,11 @@ void SeasonClose::writeHistory(const Verdict &verdict)
         row.topScorer = scorer->first;
         row.topScorerGoals = int(scorer->second);
     }
-    if (const auto signing = sql::career::dearestMove(store, verdict.season, kSigning)) {
+    if (const auto signing = sql::career::dearestMove(store, verdict.season, sql::transfers::kSigning)) {
         row.signing = signing->first;
         row.signingSum = signing->second;
     }
-    if (const auto sale = sql::career::dearestMove(store, verdict.season, kSale)) {
+    if (const auto sale = sql::career::dearestMove(store, verdict.season, sql::transfers::kSale)) {
         row.sale = sale->first;
         row.saleSum = sale->second;
     }

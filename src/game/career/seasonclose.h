@@ -41,10 +41,6 @@ public:
 
     explicit SeasonClose(Context context) : m_context(context) {}
 
-    // The kinds of the season's moves the history keeps (traspasos.tipo).
-    static constexpr const char *kSigning = "fichaje";
-    static constexpr const char *kSale = "venta";
-
     // Ranks the season, writes its history and empties it, in one transaction. The verdict,
     // or nothing when the store failed (the player has been told and the season stands as it
     // was).

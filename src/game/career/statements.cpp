@@ -317,6 +317,14 @@ std::optional<std::pair<QString, qint64>> dearestMove(GameStore &store, int seas
     return std::make_pair(row.text(0), row.integer64(1));
 }
 
+void addGoals(GameStore &store, int season, int player, int goals)
+{
+    store.execute("insert into goleadores (temporada, idjugador, Nombre, Apellidos, goles)"
+                  " select ?1, idjugador, Nombre, Apellidos, ?3 from jugadores where idjugador = ?2"
+                  " on conflict (temporada, idjugador) do update set goles = goles + excluded.goles",
+                  season, player, goals);
+}
+
 qint64 budgetOf(GameStore &store, int club)
 {
     return store.integer("select presupuesto from infoteams where idequipo = ?", club);

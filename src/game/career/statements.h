@@ -123,6 +123,8 @@ std::vector<HistoryRow> history(GameStore &store);
 std::optional<std::pair<QString, qint64>> topScorer(GameStore &store, int season);
 std::optional<std::pair<QString, qint64>> dearestMove(GameStore &store, int season, const char *kind);
 qint64 budgetOf(GameStore &store, int club);
+// Adds a player's goals of one match to his season's tally.
+void addGoals(GameStore &store, int season, int player, int goals);
 
 } // namespace sql::career
 

@@ -135,8 +135,10 @@ void MatchEngine::shoot(bool ownAttack, int shooterRow, const QString &shooter, 
     // A rating r scores with the chance r/155 on every shot.
     if (rating >= m_random.draw(kShotRange)) {
         ++m_score[std::size_t(side)];
-        if (row)
+        if (row) {
             ++row->goals;
+            ++m_scorers[row->playerId];
+        }
         // Half the goals are told as 7 m goals: it is only a way of telling it.
         const bool sevenMetres = m_random.draw(2) == 2;
         addLine(QStringLiteral("(%1)->").arg(m_minute) + (sevenMetres ? kSevenMetreGoal : kGoal) + shooter, kind);

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <array>
+#include <map>
 #include <vector>
 
 namespace game {
@@ -43,6 +44,7 @@ public:
         int rating = 0;
         int goals = 0;
         int shots = 0;
+        int playerId = 0;  // idjugador; 0 for a free place
 
         // The four entries as the screen shows them: name, position, rating, "goals/shots".
         QString entry(int index) const;
@@ -113,6 +115,10 @@ public:
     QString goalsText(int side) const;   // "goals/shots"
     int possession(int side) const { return m_possession[std::size_t(side)]; }
 
+    // The user's scorers: each player's goals by his id, as the goals were scored (the
+    // rows' tallies follow the exchanges, these follow the players).
+    const std::map<int, int> &scorers() const { return m_scorers; }
+
     int minute() const { return m_minute; }
     // What the minute label shows: it stays at 30 over half time and then jumps to 32.
     int minuteShown() const { return m_minuteShown; }
@@ -142,6 +148,7 @@ private:
     Row m_starterCopy;
     Row m_substituteCopy;
     std::vector<int> m_rivalShooters;
+    std::map<int, int> m_scorers;
 };
 
 } // namespace game

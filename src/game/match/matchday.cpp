@@ -23,6 +23,7 @@ MatchEngine::Setup MatchDay::setup(const Fixture &fixture)
         const std::vector<sql::match::SheetLine> places = sql::match::userSheet(store);
         for (std::size_t row = 0; row < setup.rows.size() && row < places.size(); ++row) {
             MatchEngine::Row &place = setup.rows[row];
+            place.playerId = places[row].id;
             place.name = places[row].nombre + QLatin1Char(' ') + places[row].apellidos;
             place.position = places[row].posicion;
             place.rating = places[row].media;

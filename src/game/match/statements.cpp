@@ -98,9 +98,10 @@ std::vector<Candidate> bestFirst(GameStore &store, int club)
 std::vector<SheetLine> userSheet(GameStore &store)
 {
     std::vector<SheetLine> lines;
-    GameStore::Query places = store.query("select Nombre, Apellidos, Posicion, Media from miequipo order by rowid");
+    GameStore::Query places =
+        store.query("select idjugador, Nombre, Apellidos, Posicion, Media from miequipo order by rowid");
     while (places.next())
-        lines.push_back({places.text(0), places.text(1), places.text(2), places.integer(3)});
+        lines.push_back({places.integer(0), places.text(1), places.text(2), places.text(3), places.integer(4)});
     return lines;
 }
 
@@ -109,7 +110,7 @@ std::vector<SheetLine> rivalSheet(GameStore &store)
     std::vector<SheetLine> lines;
     GameStore::Query rival = store.query("select Nombre, Apellidos, Media, Posicion from jugar order by plaza");
     while (rival.next())
-        lines.push_back({rival.text(0), rival.text(1), rival.text(3), rival.integer(2)});
+        lines.push_back({0, rival.text(0), rival.text(1), rival.text(3), rival.integer(2)});
     return lines;
 }
 

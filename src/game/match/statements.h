@@ -47,6 +47,7 @@ std::vector<Candidate> bestFirst(GameStore &store, int club);
 // seven by place on the court, and the surnames of the fourteen.
 struct SheetLine
 {
+    int id = 0;   // 0 for a place left free
     QString nombre;
     QString apellidos;
     QString posicion;

@@ -61,6 +61,9 @@ Bids::Outcome Bids::run()
         // His place among the fourteen, found by his id, takes its empty form again.
         store.attempt([&] { sql::transfers::freeCallUpPlace(store, player); });
         store.attempt([&] { Ledger(store).postSale(career.week, bid); });
+        store.attempt([&] {
+            sql::transfers::recordMove(store, career.season, career.week, player, sql::transfers::kSale, bid);
+        });
         outcome = Outcome::Sold;
     });
     if (!done) {

@@ -101,6 +101,10 @@ Offers::Settled Offers::settle(bool seasonClose)
                     m_context.dialogs.tell(QStringLiteral("Has Fichado a ") + nombre + QStringLiteral(" del ") + club,
                                            Dialogs::Icon::Information);
                     store.attempt([&] { sql::transfers::carryOut(store, offer.order); });
+                    store.attempt([&] {
+                        sql::transfers::recordMove(store, career.season, career.week, offer.player,
+                                                   sql::transfers::kSigning, offer.oferta);
+                    });
                     // In the season the week's row pays; at its close the ledger is gone and
                     // the budget pays.
                     store.attempt([&] {

@@ -420,4 +420,11 @@ void addYouth(GameStore &store, int id, const NewYouth &youth, int edad, int dor
                   id, kYouthPool, youth.nombre, youth.apellidos, edad, youth.posicion, dorsal, youth.nacionalidad);
 }
 
+void recordMove(GameStore &store, int season, int week, int player, const char *kind, qint64 sum)
+{
+    store.execute("insert into traspasos (temporada, jornada, idjugador, Nombre, Apellidos, tipo, importe)"
+                  " select ?, ?, idjugador, Nombre, Apellidos, ?, ? from jugadores where idjugador = ?",
+                  season, week, kind, sum, player);
+}
+
 } // namespace game::sql::transfers

@@ -116,6 +116,11 @@ void moveWithShirt(GameStore &store, int player, int club, qint64 shirt);
 // A youth into the pool, on the terms every youth joins on.
 void addYouth(GameStore &store, int id, const NewYouth &youth, int edad, int dorsal);
 
+// The club's signings and sales, kept for the career's history (traspasos).
+inline constexpr const char *kSigning = "fichaje";
+inline constexpr const char *kSale = "venta";
+void recordMove(GameStore &store, int season, int week, int player, const char *kind, qint64 sum);
+
 } // namespace sql::transfers
 
 } // namespace game

@@ -283,13 +283,19 @@ TEST_F(SavedCareer, theHistoryTellsEachSeasonAsItsCloseLeftIt)
     game::AutoSeason season(*m_context, {7, 1, game::AutoSeason::Policy::Busy});
     ASSERT_TRUE(season.begin());
     std::vector<game::AutoSeason::SeasonSummary> summaries;
-    for (int played = 0; played < 3; ++played) {
+    int goalsBefore = 0;
+    for (int played = 1; played <= 3; ++played) {
         while (season.playWeek()) {
         }
         ASSERT_TRUE(season.failure().isEmpty()) << season.failure().toStdString();
         game::AutoSeason::SeasonSummary summary;
         ASSERT_TRUE(season.closeSeason(&summary));
         summaries.push_back(summary);
+        // Every goal of the club in its matches, friendlies too, is some player's.
+        EXPECT_EQ(m_store->integer("select sum(goles) from goleadores where temporada = ?", played),
+                  season.totals().goalsFor - goalsBefore)
+            << played;
+        goalsBefore = season.totals().goalsFor;
     }
     const std::vector<game::sql::career::HistoryRow> history = game::sql::career::history(*m_store);
     ASSERT_EQ(history.size(), 3u);
@@ -305,5 +311,15 @@ TEST_F(SavedCareer, theHistoryTellsEachSeasonAsItsCloseLeftIt)
         EXPECT_EQ(history[row].budget, summaries[row].budget);
         EXPECT_EQ(history[row].won + history[row].drawn + history[row].lost, 30);
         EXPECT_EQ(2 * history[row].won + history[row].drawn, history[row].points);
+        const int season = int(row) + 1;
+        EXPECT_EQ(history[row].topScorerGoals,
+                  m_store->integer("select max(goles) from goleadores where temporada = ?", season));
+        EXPECT_FALSE(history[row].topScorer.isEmpty());
+        // A busy manager signs every few weeks; the dearest signing is the season's largest sum.
+        EXPECT_EQ(history[row].signingSum,
+                  m_store->integer("select max(importe) from traspasos where temporada = ? and tipo = 'fichaje'"
+                                   " and jornada > 0",
+                                   season));
+        EXPECT_GT(history[row].signingSum, 0);
     }
 }

@@ -331,3 +331,34 @@ TEST(EngineSystems, twoMatchesWithTheSameDrawsEndAlikeWhateverTheSystem)
     EXPECT_EQ(home[0], home[1]);
     EXPECT_EQ(away[0], away[1]);
 }
+
+// Guards: goals credited to the place instead of the player: a starter who scores and is
+// then exchanged takes his goal to the bench in the rows' tallies, but the season's scorers
+// must follow the man, and add up to the club's score.
+TEST_F(EngineTest, theScorersFollowThePlayersThroughExchangesAndAddUpToTheScore)
+{
+    MatchEngine::Setup setup = setupWithRatings(70);
+    for (int row = 0; row < MatchEngine::kRows; ++row)
+        setup.rows[std::size_t(row)].playerId = 100 + row;
+    MatchEngine engine(m_random, setup);
+    action(true, 1, false, 1); // row 1 (player 101) scores
+    engine.start();
+    engine.pick(1);
+    engine.pick(8);
+    ASSERT_TRUE(engine.exchange()); // player 108 takes row 1, player 101 sits
+    action(true, 1, false, 1);      // row 1 (now player 108) scores
+    engine.tick();
+    EXPECT_EQ(engine.score(engine.userSide()), 2);
+    EXPECT_EQ(engine.scorers(), (std::map<int, int>{{101, 1}, {108, 1}}));
+
+    m_random = ScriptedRandom(5);
+    while (!engine.finished()) {
+        if (engine.canStart())
+            engine.start();
+        engine.tick();
+    }
+    int goals = 0;
+    for (const auto &[player, scored] : engine.scorers())
+        goals += scored;
+    EXPECT_EQ(goals, engine.score(engine.userSide()));
+}
