@@ -74,7 +74,7 @@ bool Career::plan(int season)
     m_season = season;
     m_planner.begin();
     m_calendarMade = false;
-    m_stage = Stage::Planning;
+    setStage(Stage::Planning);
     emit planningStarted();
     autosave();
     return true;
@@ -100,11 +100,11 @@ bool Career::openWeek()
         return false; // told; the career stays where it stood, to be taken up again
     m_match.reset();
     if (m_week.seasonOver()) {
-        m_stage = Stage::SeasonOver;
+        setStage(Stage::SeasonOver);
         emit seasonEnding();
         return closeSeason();
     }
-    m_stage = Stage::Week;
+    setStage(Stage::Week);
     emit weekOpened(m_week.number());
     return true;
 }
@@ -115,6 +115,7 @@ void Career::runEvents()
         return;
     if (!m_week.eventsRun()) {
         m_week.runEvents();
+        writeStanding();
         emit newsArrived(m_week.news());
         autosave();
     }
@@ -164,7 +165,7 @@ bool Career::finishMatch()
     m_match.reset();
     if (!written || !recorded)
         return false;
-    m_stage = Stage::Played;
+    setStage(Stage::Played);
     return openWeek();
 }
 
@@ -173,7 +174,7 @@ bool Career::closeSeason()
     m_verdict = SeasonClose(m_context).close();
     if (!m_verdict)
         return false; // told; the season stands as it was, to be closed again
-    m_stage = Stage::Verdict;
+    setStage(Stage::Verdict);
     emit verdictReady(*m_verdict);
     autosave();
     return true;
@@ -216,14 +217,28 @@ bool Career::goOn()
     return false;
 }
 
+void Career::setStage(Stage stage)
+{
+    m_stage = stage;
+    writeStanding();
+}
+
+Result Career::writeStanding()
+{
+    // The working file says where the career stands, so that it can be taken up from the file
+    // as found (a save is a copy of it).
+    GameStore &store = m_context.store;
+    const sql::career::Standing standing{m_name, m_season, stageName(m_stage), m_week.eventsRun(),
+                                         m_week.broadcast().value_or(QString()), m_week.gatePosted()};
+    return store.run([&] { sql::career::writeStanding(store, standing); });
+}
+
 bool Career::save(const QString &path)
 {
     if (!m_saves || m_stage == Stage::None)
         return false;
     GameStore &store = m_context.store;
-    const sql::career::Standing standing{m_name, m_season, stageName(m_stage), m_week.eventsRun(),
-                                         m_week.broadcast().value_or(QString()), m_week.gatePosted()};
-    Result saved = store.run([&] { sql::career::writeStanding(store, standing); });
+    Result saved = writeStanding();
     if (saved)
         saved = path.isEmpty() ? m_saves->save(store, m_name) : m_saves->saveAs(store, path);
     if (!saved) {

@@ -142,6 +142,8 @@ signals:
     void seasonClosed();
 
 private:
+    void setStage(Stage stage);
+    Result writeStanding();
     bool openWeek();
     bool closeSeason();
     bool plan(int season);

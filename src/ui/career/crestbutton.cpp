@@ -1,6 +1,7 @@
 #include "crestbutton.h"
 
 #include "common/artwork.h"
+#include "common/theme.h"
 
 #include <QMouseEvent>
 
@@ -21,8 +22,7 @@ CrestButton::CrestButton(int clubId, const QString &caption, int side, QWidget *
 
 void CrestButton::setChosen(bool chosen)
 {
-    setStyleSheet(chosen ? QStringLiteral("background: rgba(232,163,61,70); border: 2px solid #e8a33d; border-radius: 10px;")
-                         : QStringLiteral("background: transparent; border: 2px solid transparent; border-radius: 10px;"));
+    theme::restyle(this, "chosen", chosen);
 }
 
 void CrestButton::enterEvent(QEnterEvent *event)

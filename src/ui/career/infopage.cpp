@@ -60,8 +60,7 @@ InfoPage::InfoPage(Kind kind, QWidget *parent) : QDialog(parent), m_kind(kind)
     }
     }
 
-    auto *back = new QPushButton(tr("<- VOLVER"));
-    back->setObjectName(QStringLiteral("cmdVOLVER"));
+    auto *back = theme::backButton();
     connect(back, &QPushButton::clicked, this, &QDialog::hide);
 
     auto *buttons = new QHBoxLayout;

@@ -41,11 +41,6 @@ QToolButton *MainMenu::addButton(const char *name, int icon, const QString &tip,
     button->setFixedSize(kButtonSize, kButtonSize);
     button->setIconSize(QSize(kButtonSize - 24, kButtonSize - 24));
     button->setIcon(QIcon(artwork::menuIcon(static_cast<artwork::MenuIcon>(icon), button->iconSize() * 2)));
-    button->setStyleSheet(QStringLiteral(
-        "QToolButton { background: rgba(10, 20, 45, 170); border: 2px solid rgba(232, 163, 61, 150);"
-        " border-radius: 18px; }"
-        "QToolButton:hover { background: rgba(232, 163, 61, 90); border-color: #f4bb62; }"
-        "QToolButton:pressed { background: rgba(232, 163, 61, 160); }"));
     connect(button, &QToolButton::clicked, this, signal);
     m_buttons.append(button);
     return button;

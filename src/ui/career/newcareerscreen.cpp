@@ -50,9 +50,8 @@ NewCareerScreen::NewCareerScreen(game::Career &career, QWidget *parent)
     m_nationality->setCurrentIndex(10);
     m_nationality->setMaxVisibleItems(15);
 
-    m_chosen = plainLabel();
+    m_chosen = theme::label("value");
     m_chosen->setObjectName(QStringLiteral("lblEquiposel"));
-    m_chosen->setProperty("role", QStringLiteral("value"));
     m_chosen->setMinimumWidth(260);
 
     auto *form = new QFormLayout;
@@ -87,7 +86,6 @@ NewCareerScreen::NewCareerScreen(game::Career &career, QWidget *parent)
     m_hovered->setObjectName(QStringLiteral("lblEquipo"));
     m_hovered->setAlignment(Qt::AlignCenter);
     m_hovered->setMinimumHeight(30);
-    m_hovered->setStyleSheet(QStringLiteral("color: #e8a33d; font-size: 18px; font-weight: bold;"));
     grid->addWidget(m_hovered, 2, 0, 1, 8);
 
     auto *seguir = new QPushButton(tr("SEGUIR"));
@@ -107,8 +105,7 @@ NewCareerScreen::NewCareerScreen(game::Career &career, QWidget *parent)
     auto *top = new QHBoxLayout;
     top->addLayout(form, 1);
     top->addSpacing(40);
-    auto *hint = plainLabel(tr("Pasa el ratón por los escudos para ver cada equipo y pulsa sobre el tuyo."));
-    hint->setProperty("role", QStringLiteral("hint"));
+    auto *hint = theme::label("hint", tr("Pasa el ratón por los escudos para ver cada equipo y pulsa sobre el tuyo."));
     hint->setWordWrap(true);
     top->addWidget(hint, 1, Qt::AlignBottom);
 

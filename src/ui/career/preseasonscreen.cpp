@@ -1,48 +1,31 @@
 #include "preseasonscreen.h"
 
 #include "league/fixture.h"
-#include "common/artwork.h"
+#include "common/countrypicker.h"
 #include "common/indexedlabel.h"
-#include "common/plainlabel.h"
 #include "common/theme.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace ui {
 
-namespace {
-
-QLabel *columnHeader(const QString &text)
-{
-    auto *label = plainLabel(text);
-    label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
-    return label;
-}
-
-} // namespace
-
 PreseasonScreen::PreseasonScreen(game::Career &career, QWidget *parent)
-    : QWidget(parent), m_career(career), m_planner(career.planner())
+    : Page("Pretemporada", tr("Pretemporada"), tr("PRETEMPORADA"), {Back::Side::Left, "cmdVOLVER", tr("VOLVER")},
+           parent),
+      m_career(career), m_planner(career.planner())
 {
-    setObjectName(QStringLiteral("Pretemporada"));
-    setWindowTitle(tr("Pretemporada"));
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral("QWidget#Pretemporada { background-color: #0f1e3c; }"));
+    setFrame(28, 16, 10);
+    connect(this, &Page::closeRequested, this, &PreseasonScreen::backToMenu);
 
-    auto *name = plainLabel(m_planner.manager());
+    auto *name = theme::label("value", m_planner.manager());
     name->setObjectName(QStringLiteral("lblNombre"));
-    name->setProperty("role", QStringLiteral("value"));
-    auto *club = plainLabel(m_planner.clubName());
+    auto *club = theme::label("value", m_planner.clubName());
     club->setObjectName(QStringLiteral("lblEquipo"));
-    club->setProperty("role", QStringLiteral("value"));
     auto *who = new QHBoxLayout;
     who->addWidget(name);
     who->addStretch();
@@ -50,82 +33,27 @@ PreseasonScreen::PreseasonScreen(game::Career &career, QWidget *parent)
 
     auto *seguir = new QPushButton(tr("SEGUIR"));
     seguir->setObjectName(QStringLiteral("cmdSeguir"));
-    // The career makes the calendar and opens week 1; its panel follows.
-    connect(seguir, &QPushButton::clicked, this, [this] { m_career.beginSeason(); });
-    auto *volver = new QPushButton(tr("VOLVER"));
-    volver->setObjectName(QStringLiteral("cmdVOLVER"));
-    volver->setProperty("role", QStringLiteral("secondary"));
-    connect(volver, &QPushButton::clicked, this, &PreseasonScreen::backToMenu);
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(volver);
-    buttons->addStretch();
-    buttons->addWidget(seguir);
+    connect(seguir, &QPushButton::clicked, this, [this] {
+        // The career makes the calendar and opens week 1; its panel follows.
+        m_career.beginSeason();
+    });
+    foot()->addWidget(seguir);
+
+    m_countries = new CountryPicker({tr("RIVALES PARA"), 6, false},
+                                    [this](int code) { return m_planner.clubsOf(code); });
+    connect(m_countries, &CountryPicker::clubPicked, this, &PreseasonScreen::chooseClub);
+    m_clubChosen = theme::label("value");
+    m_clubChosen->setObjectName(QStringLiteral("lblNombreEquipo"));
+    m_countries->column()->addWidget(m_clubChosen);
 
     auto *body = new QHBoxLayout;
     body->setSpacing(24);
-    body->addWidget(buildCountries(), 5);
+    body->addWidget(m_countries, 5);
     body->addWidget(buildSlots(), 6);
 
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(28, 16, 28, 16);
-    layout->setSpacing(10);
-    layout->addWidget(theme::heading(tr("PRETEMPORADA")));
-    layout->addLayout(who);
-    layout->addLayout(body, 1);
-    layout->addLayout(buttons);
+    addLayout(who);
+    addLayout(body, 1);
     showSlots();
-}
-
-QWidget *PreseasonScreen::buildCountries()
-{
-    auto *box = new QGroupBox(tr("RIVALES PARA"));
-    m_countryChosen = plainLabel();
-    m_countryChosen->setObjectName(QStringLiteral("lblPaisSel"));
-    m_countryChosen->setStyleSheet(QStringLiteral("color: #ffffff; font-size: 16px; font-weight: bold;"));
-    m_countryHovered = plainLabel();
-    m_countryHovered->setObjectName(QStringLiteral("lblPaises"));
-    m_countryHovered->setProperty("role", QStringLiteral("hint"));
-    m_countryHovered->setMinimumHeight(22);
-
-    auto *flags = new QGridLayout;
-    flags->setSpacing(6);
-    int i = 0;
-    for (const game::Preseason::Country &country : game::Preseason::countries()) {
-        const QString caption = QString::fromUtf16(country.caption);
-        auto *button = new QToolButton;
-        button->setObjectName(QString::fromUtf8(country.button));
-        button->setToolTip(caption);
-        button->setProperty("caption", caption);
-        button->setIcon(QIcon(artwork::flag(country.code, QSize(96, 64))));
-        button->setIconSize(QSize(54, 36));
-        button->setFixedSize(66, 46);
-        button->setCursor(Qt::PointingHandCursor);
-        button->setStyleSheet(QStringLiteral("QToolButton { background: #1b2f57; border: 1px solid #3a5486; border-radius: 4px; }"
-                                             "QToolButton:hover { border-color: #e8a33d; }"));
-        button->installEventFilter(this);
-        connect(button, &QToolButton::clicked, this, [this, code = country.code, caption] { chooseCountry(code, caption); });
-        flags->addWidget(button, i / 6, i % 6);
-        ++i;
-    }
-
-    m_clubs = new QListWidget;
-    m_clubs->setObjectName(QStringLiteral("DataList1"));
-    m_clubs->setStyleSheet(QStringLiteral("QListWidget { background: #1b2f57; color: #ffffff; border: 1px solid #3a5486; }"
-                                          "QListWidget::item { padding: 3px; }"
-                                          "QListWidget::item:selected { background: #e8a33d; color: #10203f; }"));
-    connect(m_clubs, &QListWidget::itemClicked, this, [this](QListWidgetItem *item) { chooseClub(item->text()); });
-
-    m_clubChosen = plainLabel();
-    m_clubChosen->setObjectName(QStringLiteral("lblNombreEquipo"));
-    m_clubChosen->setProperty("role", QStringLiteral("value"));
-
-    auto *layout = new QVBoxLayout(box);
-    layout->addWidget(m_countryChosen);
-    layout->addLayout(flags);
-    layout->addWidget(m_countryHovered);
-    layout->addWidget(m_clubs, 1);
-    layout->addWidget(m_clubChosen);
-    return box;
 }
 
 QWidget *PreseasonScreen::buildSlots()
@@ -134,20 +62,18 @@ QWidget *PreseasonScreen::buildSlots()
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(16);
     grid->setVerticalSpacing(14);
-    grid->addWidget(columnHeader(tr("PARTIDO")), 0, 0);
-    grid->addWidget(columnHeader(tr("FECHA")), 0, 1);
-    grid->addWidget(columnHeader(tr("EQUIPO LOCAL")), 0, 2);
-    grid->addWidget(columnHeader(tr("EQUIPO VISITANTE")), 0, 3);
+    grid->addWidget(theme::label("caption", tr("PARTIDO")), 0, 0);
+    grid->addWidget(theme::label("caption", tr("FECHA")), 0, 1);
+    grid->addWidget(theme::label("caption", tr("EQUIPO LOCAL")), 0, 2);
+    grid->addWidget(theme::label("caption", tr("EQUIPO VISITANTE")), 0, 3);
     for (int slot = 0; slot < game::Preseason::kSlots; ++slot) {
-        auto *kind = plainLabel(slot < 4 ? tr("Preparación:") : tr("Presentación:"));
-        kind->setStyleSheet(QStringLiteral("color: #b9c3d8; font-weight: bold;"));
-        grid->addWidget(kind, slot + 1, 0);
+        grid->addWidget(theme::label("field", slot < 4 ? tr("Preparación:") : tr("Presentación:")), slot + 1, 0);
+        int column = 1;
         for (const char *name : {"lblFecha", "lblEquipoLocal", "lblEquipoVis"}) {
             QLabel *label = indexed::label(name, slot);
             label->setMinimumHeight(26);
-            label->setStyleSheet(QStringLiteral("color: #ffffff; background: #162a50; border-radius: 3px; padding: 2px 6px;"));
-            const int column = name == std::string_view("lblFecha") ? 1 : name == std::string_view("lblEquipoLocal") ? 2 : 3;
-            grid->addWidget(label, slot + 1, column);
+            label->setProperty("role", QStringLiteral("cell"));
+            grid->addWidget(label, slot + 1, column++);
         }
     }
     grid->setColumnStretch(2, 1);
@@ -175,10 +101,9 @@ QWidget *PreseasonScreen::buildSlots()
     actions->addWidget(m_decline);
     actions->addWidget(erase);
 
-    auto *hint = plainLabel(tr("Elige un país y pulsa sobre un club de la lista para llenar el siguiente partido, "
-                               "o pulsa «No Jugar» para dejarlo libre. El quinto partido, la presentación, "
-                               "se juega en casa."));
-    hint->setProperty("role", QStringLiteral("hint"));
+    auto *hint = theme::label("hint", tr("Elige un país y pulsa sobre un club de la lista para llenar el siguiente "
+                                         "partido, o pulsa «No Jugar» para dejarlo libre. El quinto partido, la "
+                                         "presentación, se juega en casa."));
     hint->setWordWrap(true);
 
     auto *layout = new QVBoxLayout(box);
@@ -187,22 +112,6 @@ QWidget *PreseasonScreen::buildSlots()
     layout->addStretch();
     layout->addWidget(hint);
     return box;
-}
-
-bool PreseasonScreen::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::Enter)
-        m_countryHovered->setText(watched->property("caption").toString());
-    else if (event->type() == QEvent::Leave)
-        m_countryHovered->clear();
-    return QWidget::eventFilter(watched, event);
-}
-
-void PreseasonScreen::chooseCountry(int code, const QString &caption)
-{
-    m_countryChosen->setText(caption);
-    m_clubs->clear();
-    m_clubs->addItems(m_planner.clubsOf(code));
 }
 
 void PreseasonScreen::chooseClub(const QString &name)

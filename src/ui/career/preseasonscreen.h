@@ -1,18 +1,18 @@
 #pragma once
 
 #include "career/career.h"
-
-#include <QWidget>
+#include "common/page.h"
 
 class QLabel;
-class QListWidget;
 class QPushButton;
 
 namespace ui {
 
+class CountryPicker;
+
 // "Pretemporada": the five friendlies of August, chosen among the clubs of eighteen
 // countries or declined, then on to the first week of the season.
-class PreseasonScreen : public QWidget
+class PreseasonScreen : public Page
 {
     Q_OBJECT
 
@@ -20,24 +20,18 @@ public:
     explicit PreseasonScreen(game::Career &career, QWidget *parent = nullptr);
 
 signals:
+    // "VOLVER": the planner is left for the menu.
     void backToMenu();
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
-    QWidget *buildCountries();
     QWidget *buildSlots();
-    void chooseCountry(int code, const QString &caption);
     void chooseClub(const QString &name);
     void showSlots();
 
     game::Career &m_career;
     game::Preseason &m_planner;
-    QLabel *m_countryChosen;
-    QLabel *m_countryHovered;
+    CountryPicker *m_countries;
     QLabel *m_clubChosen;
-    QListWidget *m_clubs;
     QPushButton *m_decline;
 };
 

@@ -1,6 +1,6 @@
 #include "weekpanel.h"
 
-#include "common/plainlabel.h"
+#include "common/theme.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -17,18 +17,15 @@ namespace {
 
 QGroupBox *group(const QString &caption)
 {
-    auto *box = new QGroupBox(caption);
-    box->setStyleSheet(QStringLiteral("QGroupBox { background: rgba(10, 20, 45, 200); }"));
-    return box;
+    return new QGroupBox(caption);
 }
 
-QLabel *infoLabel(const char *name, int pointSize)
+// A figure of the scoreboard; the sheet gives each its size by its name.
+QLabel *infoLabel(const char *name)
 {
-    QLabel *label = plainLabel();
+    QLabel *label = theme::label("board");
     label->setObjectName(QString::fromLatin1(name));
     label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold; font-size: %1px; background: transparent;")
-                             .arg(pointSize));
     return label;
 }
 
@@ -44,17 +41,16 @@ WeekPanel::WeekPanel(game::Career &career, const ScreenExists &exists, QWidget *
     m_timer->setInterval(100);
     connect(m_timer, &QTimer::timeout, this, &WeekPanel::runWeekEvents);
 
-    m_weekLabel = infoLabel("lblJornada", 40);
-    auto *weekCaption = infoLabel("lblSemanaTitulo", 14);
+    m_weekLabel = infoLabel("lblJornada");
+    auto *weekCaption = infoLabel("lblSemanaTitulo");
     weekCaption->setText(tr("SEMANA"));
-    m_home = infoLabel("lblEquipoLocal", 22);
-    m_away = infoLabel("lblEquipoVis", 22);
-    m_type = infoLabel("Tipo", 16);
-    m_type->setStyleSheet(m_type->styleSheet() + QStringLiteral("color: #e8a33d;"));
-    m_match = infoLabel("partido", 11);
+    m_home = infoLabel("lblEquipoLocal");
+    m_away = infoLabel("lblEquipoVis");
+    m_type = infoLabel("Tipo");
+    m_match = infoLabel("partido");
     m_match->setVisible(false); // carries the league fixture's id for the match screens
-    m_date = infoLabel("lblFecha", 14);
-    auto *versus = infoLabel("lblContra", 18);
+    m_date = infoLabel("lblFecha");
+    auto *versus = infoLabel("lblContra");
     versus->setText(QStringLiteral("vs"));
 
     auto *entrenador = group(tr("ENTRENADOR"));
@@ -209,7 +205,7 @@ void WeekPanel::paintEvent(QPaintEvent *)
     // across, thin cross lines and a black disc in the middle. Drawn again at every size.
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(rect(), QColor(15, 30, 60));
+    painter.fillRect(rect(), theme::kNavy);
     const int cx = width() / 2;
     const int cy = height() / 2;
     const int barHeight = height() / 10;

@@ -1,5 +1,7 @@
 #include "artwork.h"
 
+#include "artwork_paint.h"
+
 #include <QFont>
 #include <QLinearGradient>
 #include <QPainter>
@@ -481,7 +483,9 @@ ClubColours clubColours(int clubId)
     return kColours[static_cast<std::size_t>(clubId - 1)];
 }
 
-QPixmap crest(int clubId, QSize size)
+namespace {
+
+QPixmap drawCrest(int clubId, QSize size)
 {
     QPixmap pixmap(size.expandedTo(QSize(1, 1)));
     pixmap.fill(Qt::transparent);
@@ -528,6 +532,13 @@ QPixmap crest(int clubId, QSize size)
     p.strokePath(shield, QPen(QColor(0x1c, 0x1c, 0x22), outline, Qt::SolidLine, Qt::SquareCap,
                               Qt::RoundJoin));
     return pixmap;
+}
+
+} // namespace
+
+QPixmap crest(int clubId, QSize size)
+{
+    return detail::cached("crest", clubId, size, drawCrest);
 }
 
 } // namespace artwork

@@ -1,4 +1,5 @@
 #include "artwork.h"
+#include "artwork_paint.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -125,9 +126,7 @@ Vec3 turned(const Vec3 &p, double yaw, double pitch, double roll)
     return {cr * b.x - sr * b.y, sr * b.x + cr * b.y, b.z};
 }
 
-} // namespace
-
-QPixmap handball(QSize size)
+QPixmap drawHandball(int, QSize size)
 {
     QPixmap pixmap(size.expandedTo(QSize(1, 1)));
     pixmap.fill(Qt::transparent);
@@ -206,6 +205,13 @@ QPixmap handball(QSize size)
     rim.setColorAt(1.0, QColor(140, 180, 255, 90));
     p.fillPath(disc, rim);
     return pixmap;
+}
+
+} // namespace
+
+QPixmap handball(QSize size)
+{
+    return detail::cached("handball", 0, size, drawHandball);
 }
 
 } // namespace artwork

@@ -1,4 +1,5 @@
 #include "artwork.h"
+#include "artwork_paint.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -278,9 +279,7 @@ void portugal(QPainter &p, const QRectF &r)
     p.strokePath(shield, QPen(QColor(0xb0, 0x90, 0x00), qMax<qreal>(0.4, 0.5 * u)));
 }
 
-} // namespace
-
-QPixmap flag(int countryCode, QSize size)
+QPixmap drawFlag(int countryCode, QSize size)
 {
     QPixmap pixmap(size.expandedTo(QSize(1, 1)));
     pixmap.fill(Qt::transparent);
@@ -335,6 +334,13 @@ QPixmap flag(int countryCode, QSize size)
     p.setPen(QPen(QColor(0x80, 0x80, 0x80), border, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     p.drawRect(r.adjusted(border / 2, border / 2, -border / 2, -border / 2));
     return pixmap;
+}
+
+} // namespace
+
+QPixmap flag(int countryCode, QSize size)
+{
+    return detail::cached("flag", countryCode, size, drawFlag);
 }
 
 } // namespace artwork

@@ -1,4 +1,5 @@
 #include "artwork.h"
+#include "artwork_paint.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -224,10 +225,9 @@ void paintIcon(QPainter &p, MenuIcon icon, const Ink &ink)
     }
 }
 
-} // namespace
-
-QPixmap menuIcon(MenuIcon icon, QSize size)
+QPixmap drawMenuIcon(int which, QSize size)
 {
+    const auto icon = static_cast<MenuIcon>(which);
     QPixmap pixmap(size.expandedTo(QSize(1, 1)));
     pixmap.fill(Qt::transparent);
     QPainter p(&pixmap);
@@ -249,6 +249,13 @@ QPixmap menuIcon(MenuIcon icon, QSize size)
               {QColor(0xee, 0xf2, 0xf8), QColor(0xf2, 0xa0, 0x38), QColor(0x1a, 0x1e, 0x2a),
                QColor(0xee, 0xf2, 0xf8, 40)});
     return pixmap;
+}
+
+} // namespace
+
+QPixmap menuIcon(MenuIcon icon, QSize size)
+{
+    return detail::cached("menu-icon", int(icon), size, drawMenuIcon);
 }
 
 } // namespace artwork

@@ -1,5 +1,7 @@
 #include "artwork_paint.h"
 
+#include <QPixmapCache>
+
 #include <algorithm>
 #include <cmath>
 
@@ -38,6 +40,25 @@ QPainterPath dashed(const QPolygonF &line, qreal dash, qreal gap)
         }
     }
     return out;
+}
+
+QPixmap cached(const char *kind, int which, QSize size, QPixmap (*draw)(int which, QSize size))
+{
+    // The title and the menu alone are a few megabytes each, more than Qt keeps by default.
+    constexpr int kKilobytes = 64 * 1024;
+    if (QPixmapCache::cacheLimit() < kKilobytes)
+        QPixmapCache::setCacheLimit(kKilobytes);
+    const QString key = QStringLiteral("artwork/%1/%2/%3x%4")
+                            .arg(QLatin1String(kind))
+                            .arg(which)
+                            .arg(size.width())
+                            .arg(size.height());
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = draw(which, size);
+        QPixmapCache::insert(key, picture);
+    }
+    return picture;
 }
 
 } // namespace artwork::detail

@@ -280,9 +280,7 @@ void paintClaw(QPainter &p, const QPointF &start, const QPointF &end, qreal widt
     }
 }
 
-} // namespace
-
-QPixmap title(QSize size)
+QPixmap drawTitle(int, QSize size)
 {
     QPixmap pixmap(size.expandedTo(QSize(16, 9)));
     const qreal W = pixmap.width(), H = pixmap.height();
@@ -387,7 +385,7 @@ QPixmap title(QSize size)
     return pixmap;
 }
 
-QPixmap menuBackground(QSize size)
+QPixmap drawMenuBackground(int, QSize size)
 {
     QPixmap pixmap(size.expandedTo(QSize(16, 9)));
     const qreal W = pixmap.width(), H = pixmap.height();
@@ -460,6 +458,18 @@ QPixmap menuBackground(QSize size)
     // The heading.
     paintLogo(p, QRectF(W / 2 - 230 * u, 16 * u, 460 * u, 70 * u));
     return pixmap;
+}
+
+} // namespace
+
+QPixmap title(QSize size)
+{
+    return detail::cached("title", 0, size, drawTitle);
+}
+
+QPixmap menuBackground(QSize size)
+{
+    return detail::cached("menu", 0, size, drawMenuBackground);
 }
 
 } // namespace artwork

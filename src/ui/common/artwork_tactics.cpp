@@ -317,9 +317,7 @@ void paintCaption(QPainter &p, const Formation &f, bool withWord)
     }
 }
 
-} // namespace
-
-QPixmap tacticsDiagram(int entry, QSize size)
+QPixmap drawTacticsDiagram(int entry, QSize size)
 {
     QPixmap picture(size.expandedTo(QSize(8, 8)));
     picture.fill(kFreeZone);
@@ -355,6 +353,13 @@ QPixmap tacticsDiagram(int entry, QSize size)
     if (!f.court.empty())
         paintCaption(p, f, scale >= 0.7);
     return picture;
+}
+
+} // namespace
+
+QPixmap tacticsDiagram(int entry, QSize size)
+{
+    return detail::cached("tactics", entry, size, drawTacticsDiagram);
 }
 
 } // namespace artwork

@@ -1,36 +1,54 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <QStringList>
+#include <QString>
 
+#include <utility>
 #include <vector>
 
-// A read-only table of texts for the grids of the screens: a header and rows of cells.
+// A read-only table for the grids of the screens over the rows the game returns, kept as the
+// game's own structs, as Qt's address book keeps its contacts. Each column says how one cell
+// of a row reads; a row picked is the struct again, so nothing is ever read back out of the
+// text of a cell.
+//
+//   RowsModel<game::CallUp::Player> players({{tr("Nº"), [](const Player &p) { return QString::number(p.id); }}});
+//   players.setRows(callUp.squad());
+//   const int id = players.row(grid->currentIndex().row()).id;
+template<typename Row>
 class RowsModel : public QAbstractTableModel
 {
 public:
-    explicit RowsModel(QStringList headers, QObject *parent = nullptr)
-        : QAbstractTableModel(parent), m_headers(std::move(headers))
+    struct Column
+    {
+        QString header;
+        QString (*cell)(const Row &row);
+    };
+
+    explicit RowsModel(std::vector<Column> columns, QObject *parent = nullptr)
+        : QAbstractTableModel(parent), m_columns(std::move(columns))
     {
     }
 
-    void setRows(std::vector<QStringList> rows)
+    void setRows(std::vector<Row> rows)
     {
         beginResetModel();
         m_rows = std::move(rows);
         endResetModel();
     }
-    const QStringList &row(int index) const { return m_rows.at(std::size_t(index)); }
+    const Row &row(int index) const { return m_rows.at(std::size_t(index)); }
 
     int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : int(m_rows.size()); }
-    int columnCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : int(m_headers.size()); }
+    int columnCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : int(m_columns.size());
+    }
 
+    // A cell's text, and the same text under the pointer: a cell cut short still shows it whole.
     QVariant data(const QModelIndex &index, int role) const override
     {
         if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
             return {};
-        const QStringList &cells = m_rows.at(std::size_t(index.row()));
-        return index.column() < cells.size() ? cells.at(index.column()) : QString();
+        return m_columns.at(std::size_t(index.column())).cell(m_rows.at(std::size_t(index.row())));
     }
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
@@ -38,11 +56,11 @@ public:
         if (role != Qt::DisplayRole)
             return {};
         if (orientation == Qt::Horizontal)
-            return section < m_headers.size() ? m_headers.at(section) : QString();
+            return section < int(m_columns.size()) ? m_columns[std::size_t(section)].header : QString();
         return section + 1;
     }
 
 private:
-    QStringList m_headers;
-    std::vector<QStringList> m_rows;
+    std::vector<Column> m_columns;
+    std::vector<Row> m_rows;
 };

@@ -4,63 +4,79 @@
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QFile>
 #include <QFont>
+#include <QHash>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QStyle>
 
 namespace theme {
+
+QString styleSheet()
+{
+    QFile file(QStringLiteral(":/content/zarpazo.qss"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QString sheet = QString::fromUtf8(file.readAll());
+    // The palette: "@amber: #e8a33d;" on a line of its own, read and taken out of the sheet.
+    static const QRegularExpression entry(QStringLiteral(R"(^@(\w+):\s*([^;]+);[ \t]*\n?)"),
+                                          QRegularExpression::MultilineOption);
+    QHash<QString, QString> colours;
+    for (const QRegularExpressionMatch &found : entry.globalMatch(sheet))
+        colours.insert(found.captured(1), found.captured(2).trimmed());
+    sheet.remove(entry);
+    // Every use of a name, "@amber", becomes its colour; a name the palette lacks stays as it
+    // is, and Qt then ignores the declaration that holds it.
+    static const QRegularExpression use(QStringLiteral(R"(@(\w+))"));
+    QString resolved;
+    resolved.reserve(sheet.size());
+    qsizetype from = 0;
+    for (const QRegularExpressionMatch &found : use.globalMatch(sheet)) {
+        resolved += QStringView(sheet).mid(from, found.capturedStart() - from);
+        resolved += colours.value(found.captured(1), found.captured(0));
+        from = found.capturedEnd();
+    }
+    resolved += QStringView(sheet).mid(from);
+    return resolved;
+}
 
 void apply(QApplication &app)
 {
     QFont font = app.font();
     font.setPointSize(11);
     app.setFont(font);
-    app.setStyleSheet(QStringLiteral(R"(
-        QWidget#screen, QDialog { background-color: #0f1e3c; color: #f1f3f8; }
-        QLabel { color: #f1f3f8; }
-        QLabel[role="heading"] { color: #e8a33d; font-size: 22px; font-weight: bold; letter-spacing: 2px; }
-        QLabel[role="value"] { color: #ffffff; font-weight: bold; }
-        QLabel[role="hint"] { color: #b9c3d8; font-style: italic; }
-        QGroupBox { color: #e8a33d; font-weight: bold; border: 1px solid #3a5486;
-                    border-radius: 6px; margin-top: 14px; padding-top: 10px; }
-        QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 6px; }
-        QLineEdit, QComboBox, QSpinBox { background: #1b2f57; color: #ffffff; border: 1px solid #3a5486;
-                    border-radius: 4px; padding: 4px 6px; min-height: 22px; }
-        QLineEdit:focus, QComboBox:focus { border-color: #e8a33d; }
-        QComboBox QAbstractItemView { background: #1b2f57; color: #ffffff; selection-background-color: #e8a33d;
-                    selection-color: #10203f; }
-        QPushButton { background-color: #e8a33d; color: #10203f; font-weight: bold; border: none;
-                    border-radius: 5px; padding: 8px 22px; min-width: 90px; }
-        QPushButton:hover { background-color: #f4bb62; }
-        QPushButton:pressed { background-color: #c9872a; }
-        QPushButton:disabled { background-color: #5a6682; color: #aab2c5; }
-        QPushButton[role="secondary"] { background-color: #2a406d; color: #f1f3f8; }
-        QPushButton[role="secondary"]:hover { background-color: #36508a; }
-        QScrollBar:horizontal { background: #1b2f57; height: 16px; border-radius: 4px; }
-        QScrollBar::handle:horizontal { background: #e8a33d; min-width: 24px; border-radius: 4px; }
-        QScrollBar::add-line:horizontal, QScrollBar::sub-line:horizontal { width: 0px; }
-        QTextBrowser { background: #fbfbf8; color: #1a1a1a; border: 1px solid #3a5486; }
-        QToolTip { background: #fffbe6; color: #10203f; border: 1px solid #e8a33d; }
-    )"));
+    app.setStyleSheet(styleSheet());
+}
+
+QLabel *label(const char *role, const QString &text, QWidget *parent)
+{
+    QLabel *label = ui::plainLabel(text, parent);
+    label->setProperty("role", QString::fromLatin1(role));
+    return label;
+}
+
+QListWidget *list(const char *name, const char *role, QWidget *parent)
+{
+    auto *list = new QListWidget(parent);
+    list->setObjectName(QString::fromLatin1(name));
+    list->setProperty("role", QString::fromLatin1(role));
+    list->ensurePolished();
+    return list;
 }
 
 QLabel *heading(const QString &text, QWidget *parent)
 {
-    QLabel *label = ui::plainLabel(text, parent);
-    label->setProperty("role", QStringLiteral("heading"));
-    label->setAlignment(Qt::AlignCenter);
-    return label;
+    QLabel *title = label("heading", text, parent);
+    title->setAlignment(Qt::AlignCenter);
+    return title;
 }
-
-} // namespace theme
-
-namespace theme {
 
 QLabel *fieldCaption(const QString &text, QWidget *parent)
 {
-    QLabel *label = ui::plainLabel(text, parent);
-    label->setStyleSheet(QStringLiteral("color: #b9c3d8; font-weight: bold;"));
-    return label;
+    return label("field", text, parent);
 }
 
 QPushButton *backButton(QWidget *parent)
@@ -69,6 +85,20 @@ QPushButton *backButton(QWidget *parent)
     button->setObjectName(QStringLiteral("cmdVOLVER"));
     button->setProperty("role", QStringLiteral("secondary"));
     return button;
+}
+
+void restyle(QWidget *widget, const char *name, const QVariant &value)
+{
+    if (widget->property(name) == value)
+        return;
+    widget->setProperty(name, value);
+    // The sheet's rules are matched when a widget is polished; one already polished is
+    // polished again to pick up the change.
+    if (widget->testAttribute(Qt::WA_WState_Polished)) {
+        widget->style()->unpolish(widget);
+        widget->style()->polish(widget);
+        widget->update();
+    }
 }
 
 } // namespace theme

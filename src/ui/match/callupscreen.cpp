@@ -1,8 +1,6 @@
 #include "callupscreen.h"
 
 #include "common/gridstyle.h"
-#include "common/plainlabel.h"
-#include "common/rowsmodel.h"
 #include "common/theme.h"
 
 #include <QHBoxLayout>
@@ -16,28 +14,29 @@
 
 namespace ui {
 
-CallUpScreen::CallUpScreen(game::Context context, QWidget *parent)
-    : QWidget(parent), m_context(context), m_callUp(context)
+std::vector<RowsModel<game::CallUp::Player>::Column> squadColumns()
 {
-    setObjectName(QStringLiteral("Alinear"));
-    setWindowTitle(tr("Preparando Partido"));
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral("QWidget#Alinear { background-color: #0f1e3c; }"));
+    using Player = game::CallUp::Player;
+    return {{CallUpScreen::tr("Nº"), [](const Player &p) { return QString::number(p.id); }},
+            {CallUpScreen::tr("Nombre"), [](const Player &p) { return p.nombre; }},
+            {CallUpScreen::tr("Apellidos"), [](const Player &p) { return p.apellidos; }},
+            {CallUpScreen::tr("Posición"), [](const Player &p) { return p.posicion; }},
+            {CallUpScreen::tr("Media"), [](const Player &p) { return QString::number(p.media); }},
+            {CallUpScreen::tr("Dorsal"), [](const Player &p) { return QString::number(p.dorsal); }},
+            {CallUpScreen::tr("Lesión"), [](const Player &p) { return QString::number(p.lesiones); }}};
+}
 
-    m_players = new RowsModel({tr("Nº"), tr("Nombre"), tr("Apellidos"), tr("Posición"),
-                               tr("Media"), tr("Dorsal"), tr("Lesión")},
-                              this);
+CallUpScreen::CallUpScreen(game::Context context, QWidget *parent)
+    : Page("Alinear", tr("Preparando Partido"), tr("PREPARANDO PARTIDO"), {Back::Side::Left}, parent),
+      m_context(context), m_callUp(context)
+{
+    m_players = new RowsModel<game::CallUp::Player>(squadColumns(), this);
     m_grid = new QTableView;
     m_grid->setObjectName(QStringLiteral("DataGrid1"));
     m_grid->setModel(m_players);
     styleGrid(m_grid);
 
-    m_places = new QListWidget;
-    m_places->setObjectName(QStringLiteral("list1"));
-    m_places->setStyleSheet(QStringLiteral(
-        "QListWidget { background: #f4f6fb; color: #10203f; border: 1px solid #3a5486; }"
-        "QListWidget::item { padding: 4px; }"
-        "QListWidget::item:selected { background: #e8a33d; color: #10203f; }"));
+    m_places = theme::list("list1", "places");
 
     auto *add = new QPushButton(tr("Añadir"));
     add->setObjectName(QStringLiteral("cmdAñadir"));
@@ -49,21 +48,14 @@ CallUpScreen::CallUpScreen(game::Context context, QWidget *parent)
         if (m_callUp.readyToPlay())
             emit playRequested();
     });
-    auto *back = theme::backButton();
-    connect(back, &QPushButton::clicked, this, &CallUpScreen::closeRequested);
 
     auto *left = new QVBoxLayout;
-    auto *playersCaption = plainLabel(tr("JUGADORES DEL CLUB"));
-    playersCaption->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
-    left->addWidget(playersCaption);
+    left->addWidget(theme::label("caption", tr("JUGADORES DEL CLUB")));
     left->addWidget(m_grid, 1);
     auto *right = new QVBoxLayout;
-    auto *placesCaption = plainLabel(tr("CONVOCATORIA"));
-    placesCaption->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
-    right->addWidget(placesCaption);
+    right->addWidget(theme::label("caption", tr("CONVOCATORIA")));
     right->addWidget(m_places, 1);
-    auto *hint = plainLabel(tr("Elige un jugador en la tabla y una plaza en la lista, y pulsa «Añadir»."));
-    hint->setProperty("role", QStringLiteral("hint"));
+    auto *hint = theme::label("hint", tr("Elige un jugador en la tabla y una plaza en la lista, y pulsa «Añadir»."));
     hint->setWordWrap(true);
     right->addWidget(hint);
     right->addWidget(add);
@@ -72,19 +64,8 @@ CallUpScreen::CallUpScreen(game::Context context, QWidget *parent)
     body->setSpacing(20);
     body->addLayout(left, 3);
     body->addLayout(right, 2);
-
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(back);
-    buttons->addStretch();
-    buttons->addWidget(play);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(28, 16, 28, 16);
-    layout->setSpacing(12);
-    layout->addWidget(theme::heading(tr("PREPARANDO PARTIDO")));
-    layout->addLayout(body, 1);
-    layout->addLayout(buttons);
-    reload();
+    addLayout(body, 1);
+    foot()->addWidget(play);
 }
 
 void CallUpScreen::reload()
@@ -94,15 +75,11 @@ void CallUpScreen::reload()
     // The grid is read afresh, so its pick is kept by the player's id, not by its row.
     const int pickedId = pickedPlayerId();
     const int pickedColumn = std::max(m_grid->currentIndex().column(), 0);
-    std::vector<QStringList> rows;
-    int pickedRow = -1;
-    for (const game::CallUp::Player &player : m_callUp.squad()) {
-        if (player.id == pickedId)
-            pickedRow = int(rows.size());
-        rows.push_back({QString::number(player.id), player.nombre, player.apellidos, player.posicion,
-                        QString::number(player.media), QString::number(player.dorsal), QString::number(player.lesiones)});
-    }
-    m_players->setRows(std::move(rows));
+    std::vector<game::CallUp::Player> squad = m_callUp.squad();
+    const auto picked = std::find_if(squad.begin(), squad.end(),
+                                     [pickedId](const game::CallUp::Player &player) { return player.id == pickedId; });
+    const int pickedRow = picked == squad.end() ? -1 : int(picked - squad.begin());
+    m_players->setRows(std::move(squad));
     m_grid->resizeColumnsToContents();
     if (pickedRow >= 0)
         m_grid->setCurrentIndex(m_players->index(pickedRow, pickedColumn));
@@ -119,7 +96,7 @@ int CallUpScreen::pickedPlayerId() const
 {
     // The id of the row picked in the grid, whichever cell of it was pressed.
     const QModelIndex picked = m_grid->currentIndex();
-    return picked.isValid() ? m_players->row(picked.row()).at(0).toInt() : 0;
+    return picked.isValid() ? m_players->row(picked.row()).id : 0;
 }
 
 void CallUpScreen::add()

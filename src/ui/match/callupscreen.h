@@ -1,30 +1,32 @@
 #pragma once
 
+#include "common/page.h"
+#include "common/rowsmodel.h"
 #include "context.h"
 #include "match/callup.h"
 
-#include <QWidget>
-
 class QListWidget;
 class QTableView;
-class RowsModel;
 
 namespace ui {
 
+// The columns of a grid of the club's players as the call-up and the tactics show them.
+std::vector<RowsModel<game::CallUp::Player>::Column> squadColumns();
+
 // "Preparando Partido": the fourteen of the match squad, chosen from the club's players.
-class CallUpScreen : public QWidget
+class CallUpScreen : public Page
 {
     Q_OBJECT
 
 public:
     explicit CallUpScreen(game::Context context, QWidget *parent = nullptr);
 
-    // Reads the squad and the places again.
+    // Reads the squad and the places; the navigator does so at every opening, the first
+    // included.
     void reload();
 
 signals:
     void playRequested();
-    void closeRequested();
 
 private:
     void add();
@@ -33,7 +35,7 @@ private:
 
     game::Context m_context;
     game::CallUp m_callUp;
-    RowsModel *m_players;
+    RowsModel<game::CallUp::Player> *m_players;
     QTableView *m_grid;
     QListWidget *m_places;
 };

@@ -3,6 +3,7 @@
 #include "common/clickablelabel.h"
 #include "common/indexedlabel.h"
 #include "common/plainlabel.h"
+#include "common/theme.h"
 #include "dialogs.h"
 #include "match/matchday.h"
 #include "match/tactics.h"
@@ -20,34 +21,59 @@
 
 namespace ui {
 
-namespace {
-
-const QString kRestingRow = QStringLiteral("background: rgb(192, 192, 192); color: #10203f; padding: 2px 6px;");
-const QString kPickedRow = QStringLiteral("background: rgb(255, 0, 0); color: #ffffff; padding: 2px 6px;");
-
-QLabel *heading(const QString &text)
+// The commentary, newest line first. The list lays its lines out again from the top whenever
+// one comes; each line is measured once, as it comes, so that this costs little however long
+// the match has run.
+class Commentary : public QListWidget
 {
-    QLabel *label = plainLabel(text);
-    label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
-    return label;
-}
+public:
+    Commentary()
+    {
+        setObjectName(QStringLiteral("list2"));
+        setProperty("role", QStringLiteral("commentary"));
+        // Measured in the sheet's terms from the first line on.
+        ensurePolished();
+    }
+
+    void addLine(const QString &text, const QColor &colour)
+    {
+        auto *item = new QListWidgetItem(text);
+        item->setForeground(colour);
+        insertItem(0, item);
+        QStyleOptionViewItem option;
+        initViewItemOption(&option);
+        const QModelIndex index = indexFromItem(item);
+        item->setSizeHint(itemDelegateForIndex(index)->sizeHint(option, index));
+    }
+};
+
+namespace {
 
 // A name from the store (a club, a player) is cut with "…" where the layout has no room for
 // it (see ElidedLabel); the whole name is in its tooltip.
 void setNamed(QLabel *label, const QString &text)
 {
+    if (label->text() == text)
+        return;
     label->setText(text);
     label->setToolTip(text);
 }
 
+void setShown(QLabel *label, const QString &text)
+{
+    if (label->text() != text)
+        label->setText(text);
+}
+
 // Two-entry widgets: entry 0 the home club's, entry 1 the away club's.
-QLabel *sideLabel(const char *name, int side, const QString &style)
+QLabel *sideLabel(const char *name, int side, const char *role = nullptr)
 {
     QLabel *label = new ElidedLabel;
     label->setObjectName(QString::fromLatin1(name));
     label->setProperty("index", side);
+    if (role)
+        label->setProperty("role", QString::fromLatin1(role));
     label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(style);
     return label;
 }
 
@@ -109,34 +135,27 @@ MatchScreen::~MatchScreen() = default;
 QWidget *MatchScreen::buildScoreboard()
 {
     auto *board = new QWidget;
-    board->setStyleSheet(QStringLiteral("background: #07122a; border-radius: 8px;"));
-    const QString nameStyle = QStringLiteral("color: #ffffff; font-size: 20px; font-weight: bold; background: transparent;");
-    const QString scoreStyle = QStringLiteral("color: #e8a33d; font-size: 34px; font-weight: bold; background: #000000;"
-                                              " border-radius: 6px; padding: 2px 14px; font-family: monospace;");
-    QLabel *home = sideLabel("lblEquipoLoc", 0, nameStyle);
+    board->setProperty("role", QStringLiteral("scoreboard"));
+    QLabel *home = sideLabel("lblEquipoLoc", 0);
     setNamed(home, m_fixture.homeName);
     home->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    QLabel *away = sideLabel("lblEquipoVis", 0, nameStyle);
+    QLabel *away = sideLabel("lblEquipoVis", 0);
     setNamed(away, m_fixture.awayName);
     away->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (int side = 0; side < 2; ++side) {
-        m_score[std::size_t(side)] = sideLabel("lblMarcador", side, scoreStyle);
+        m_score[std::size_t(side)] = sideLabel("lblMarcador", side);
         m_score[std::size_t(side)]->setText(QStringLiteral("0"));
     }
-    QLabel *minuteCaption = plainLabel(tr("Minuto:"));
-    minuteCaption->setStyleSheet(QStringLiteral("color: #b9c3d8; background: transparent;"));
+    QLabel *minuteCaption = theme::label("muted", tr("Minuto:"));
     m_minute = plainLabel(QStringLiteral("0"));
     m_minute->setObjectName(QStringLiteral("lblmin"));
-    m_minute->setStyleSheet(QStringLiteral("color: #ffffff; font-size: 22px; font-weight: bold; background: transparent;"));
 
     auto *row = new QHBoxLayout(board);
     row->setContentsMargins(16, 8, 16, 8);
     row->addWidget(home, 1);
     row->addSpacing(12);
     row->addWidget(m_score[0]);
-    QLabel *dash = plainLabel(QStringLiteral("-"));
-    dash->setStyleSheet(QStringLiteral("color: #ffffff; font-size: 28px; background: transparent;"));
-    row->addWidget(dash);
+    row->addWidget(theme::label("dash", QStringLiteral("-")));
     row->addWidget(m_score[1]);
     row->addSpacing(12);
     row->addWidget(away, 1);
@@ -155,13 +174,11 @@ QWidget *MatchScreen::buildRows()
     grid->setVerticalSpacing(3);
     const char *headers[] = {"POSICIÓN CAMPO:", "NOMBRE JUGADOR:", "POS JUGADOR:", "MEDIA:", "GOLES:"};
     for (int column = 0; column < 5; ++column)
-        grid->addWidget(heading(tr(headers[column])), 0, column);
+        grid->addWidget(theme::label("caption", tr(headers[column])), 0, column);
     int gridRow = 1;
     for (int row = 0; row < game::MatchEngine::kRows; ++row) {
         if (row == 0 || row == game::MatchEngine::kStarters) {
-            QLabel *section = plainLabel(row == 0 ? tr("TITULARES") : tr("SUPLENTES"));
-            section->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold; padding-top: 4px;"));
-            grid->addWidget(section, gridRow++, 0, 1, 5);
+            grid->addWidget(theme::label("group", row == 0 ? tr("TITULARES") : tr("SUPLENTES")), gridRow++, 0, 1, 5);
         }
         auto *place = new ClickableLabel(game::MatchEngine::placeCaption(row));
         place->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred); // the captions always fit
@@ -196,19 +213,17 @@ QWidget *MatchScreen::buildSide()
     layout->setSpacing(8);
 
     auto *stats = new QGridLayout;
-    const QString nameStyle = QStringLiteral("color: #ffffff; font-weight: bold;");
-    const QString valueStyle = QStringLiteral("color: #ffffff; font-size: 16px;");
-    QLabel *home = sideLabel("lblEquipoLoc", 1, nameStyle);
+    QLabel *home = sideLabel("lblEquipoLoc", 1, "value");
     setNamed(home, m_fixture.homeName);
-    QLabel *away = sideLabel("lblEquipoVis", 1, nameStyle);
+    QLabel *away = sideLabel("lblEquipoVis", 1, "value");
     setNamed(away, m_fixture.awayName);
     stats->addWidget(home, 0, 1);
     stats->addWidget(away, 0, 2);
-    stats->addWidget(heading(tr("GOLES/LANZAMIENTOS")), 1, 0);
-    stats->addWidget(heading(tr("POSESIÓN")), 2, 0);
+    stats->addWidget(theme::label("caption", tr("GOLES/LANZAMIENTOS")), 1, 0);
+    stats->addWidget(theme::label("caption", tr("POSESIÓN")), 2, 0);
     for (int s = 0; s < 2; ++s) {
-        m_goals[std::size_t(s)] = sideLabel("lblGoles", s, valueStyle);
-        m_possession[std::size_t(s)] = sideLabel("lblPosesion", s, valueStyle);
+        m_goals[std::size_t(s)] = sideLabel("lblGoles", s);
+        m_possession[std::size_t(s)] = sideLabel("lblPosesion", s);
         stats->addWidget(m_goals[std::size_t(s)], 1, s + 1);
         stats->addWidget(m_possession[std::size_t(s)], 2, s + 1);
     }
@@ -227,7 +242,6 @@ QWidget *MatchScreen::buildSide()
     for (int i = 0; i < 8; ++i) {
         QLabel *label = new ElidedLabel(i < 3 ? designCaptions[i] : QString());
         label->setObjectName(QString::fromLatin1(gateLabels[i]));
-        label->setStyleSheet(QStringLiteral("color: #f1f3f8;"));
         gateGrid->addWidget(label, places[i][0], places[i][1]);
     }
     layout->addWidget(gate);
@@ -240,16 +254,13 @@ QWidget *MatchScreen::buildSide()
     thrower->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     thrower->setMinimumContentsLength(10);
     auto *choices = new QGridLayout;
-    choices->addWidget(heading(tr("Táctica Defensiva:")), 0, 0);
+    choices->addWidget(theme::label("caption", tr("Táctica Defensiva:")), 0, 0);
     choices->addWidget(m_system, 1, 0);
-    choices->addWidget(heading(tr("Lanzador de 7m:")), 0, 1);
+    choices->addWidget(theme::label("caption", tr("Lanzador de 7m:")), 0, 1);
     choices->addWidget(thrower, 1, 1);
     layout->addLayout(choices);
 
-    m_commentary = new QListWidget;
-    m_commentary->setObjectName(QStringLiteral("list2"));
-    m_commentary->setStyleSheet(QStringLiteral("QListWidget { background: #ffffff; border: 1px solid #3a5486; }"
-                                               "QListWidget::item { padding: 1px; }"));
+    m_commentary = new Commentary;
     layout->addWidget(m_commentary, 1);
 
     m_start = new QPushButton(tr("JUGAR"));
@@ -322,33 +333,31 @@ void MatchScreen::refresh()
     m_start->setEnabled(m_engine->canStart());
     m_leave->setEnabled(m_engine->finished());
     for (int side = 0; side < 2; ++side) {
-        m_score[std::size_t(side)]->setText(QString::number(m_engine->score(side)));
-        m_goals[std::size_t(side)]->setText(m_engine->goalsText(side));
-        m_possession[std::size_t(side)]->setText(QString::number(m_engine->possession(side)));
+        setShown(m_score[std::size_t(side)], QString::number(m_engine->score(side)));
+        setShown(m_goals[std::size_t(side)], m_engine->goalsText(side));
+        setShown(m_possession[std::size_t(side)], QString::number(m_engine->possession(side)));
     }
-    m_minute->setText(QString::number(m_engine->minuteShown()));
-    // New lines go on top: the newest stands first.
+    setShown(m_minute, QString::number(m_engine->minuteShown()));
+    // The engine keeps its lines newest first, as the list shows them: the lines new since the
+    // last refresh are the first ones, and go on top, the newest last.
     const auto &lines = m_engine->commentary();
-    for (std::size_t i = lines.size() - m_linesShown; i > 0; --i) {
-        const auto &line = lines[i - 1];
-        auto *item = new QListWidgetItem(line.text);
-        item->setForeground(lineColour(line.kind));
-        m_commentary->insertItem(0, item);
-    }
+    for (std::size_t i = lines.size() - m_linesShown; i > 0; --i)
+        m_commentary->addLine(lines[i - 1].text, lineColour(lines[i - 1].kind));
     m_linesShown = lines.size();
     paintRows();
 }
 
 void MatchScreen::paintRows()
 {
+    // The picked starter and substitute stand out; only a row whose pick or whose figures
+    // changed is painted again.
     for (int row = 0; row < game::MatchEngine::kRows; ++row) {
         const bool picked = row == m_engine->pickedStarter() || row == m_engine->pickedSubstitute();
-        const QString &style = picked ? kPickedRow : kRestingRow;
-        m_places[std::size_t(row)]->setStyleSheet(style + QStringLiteral("font-weight: bold;"));
+        theme::restyle(m_places[std::size_t(row)], "picked", picked);
         for (int entry = 0; entry < 4; ++entry) {
             ClickableLabel *label = m_entries[std::size_t(row)][std::size_t(entry)];
             setNamed(label, m_engine->row(row).entry(entry));
-            label->setStyleSheet(style);
+            theme::restyle(label, "picked", picked);
         }
     }
 }

@@ -12,12 +12,13 @@
 
 class QComboBox;
 class QLabel;
-class QListWidget;
 class QPushButton;
 class QTimer;
 class ClickableLabel;
 
 namespace ui {
+
+class Commentary;
 
 // "Partido": the week's match, played on a live commentary. The user starts each half, may
 // exchange players and announce a system at any moment, and leaves with "SALIR" at full time.
@@ -60,11 +61,15 @@ private:
     void exchange();
     void leave();
     bool mayClose();
+    // Shows what the last action changed, and nothing more: a tick changes a few figures and
+    // adds a line or two, and the rest of the screen stays as it is.
     void refresh();
     void paintRows();
 
     game::Context m_context;
     game::Fixture m_fixture;
+    // The match the screen shows and plays, the career's; every part of the screen goes
+    // through it.
     game::MatchEngine *m_engine;
     QTimer *m_timer;
     std::array<std::array<ClickableLabel *, 4>, game::MatchEngine::kRows> m_entries{};
@@ -73,7 +78,7 @@ private:
     std::array<QLabel *, 2> m_goals{};
     std::array<QLabel *, 2> m_possession{};
     QLabel *m_minute = nullptr;
-    QListWidget *m_commentary = nullptr;
+    Commentary *m_commentary = nullptr;
     QComboBox *m_system = nullptr;
     QPushButton *m_start = nullptr;
     QPushButton *m_leave = nullptr;

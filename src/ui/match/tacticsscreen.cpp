@@ -1,18 +1,16 @@
 #include "tacticsscreen.h"
 
+#include "callupscreen.h"
 #include "common/artwork.h"
 #include "common/gridstyle.h"
 #include "common/plainlabel.h"
-#include "common/rowsmodel.h"
 #include "common/theme.h"
-#include "match/callup.h"
 #include "match/tactics.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -25,20 +23,14 @@ const QSize kDiagramSize(200, 199);
 
 QLabel *caption(const QString &text)
 {
-    auto *label = plainLabel(text);
-    label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
-    return label;
+    return theme::label("caption", text);
 }
 
 } // namespace
 
-TacticsScreen::TacticsScreen(game::Context context, QWidget *parent) : QWidget(parent), m_context(context)
+TacticsScreen::TacticsScreen(game::Context context, QWidget *parent)
+    : Page("Tactica", tr("Táctica"), tr("TÁCTICA"), parent), m_context(context)
 {
-    setObjectName(QStringLiteral("Tactica"));
-    setWindowTitle(tr("Táctica"));
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral("QWidget#Tactica { background-color: #0f1e3c; }"));
-
     m_defence = new QComboBox;
     m_defence->setObjectName(QStringLiteral("Combo1"));
     m_defence->addItems(game::Tactics::defences());
@@ -61,19 +53,13 @@ TacticsScreen::TacticsScreen(game::Context context, QWidget *parent) : QWidget(p
     });
 
     // Who throws the 7 m penalties: the list is there, but the throws go to whoever has the ball.
-    const std::vector<game::CallUp::Player> squad = game::CallUp(context).calledUp();
+    std::vector<game::CallUp::Player> squad = game::CallUp(context).calledUp();
     auto *thrower = new QComboBox;
     thrower->setObjectName(QStringLiteral("DataCombo1"));
-    auto *players = new RowsModel({tr("Nº"), tr("Nombre"), tr("Apellidos"), tr("Posición"),
-                                   tr("Media"), tr("Dorsal"), tr("Lesión")},
-                                  this);
-    std::vector<QStringList> rows;
-    for (const game::CallUp::Player &player : squad) {
+    for (const game::CallUp::Player &player : squad)
         thrower->addItem(player.apellidos);
-        rows.push_back({QString::number(player.id), player.nombre, player.apellidos, player.posicion,
-                        QString::number(player.media), QString::number(player.dorsal), QString::number(player.lesiones)});
-    }
-    players->setRows(std::move(rows));
+    auto *players = new RowsModel<game::CallUp::Player>(squadColumns(), this);
+    players->setRows(std::move(squad));
     auto *grid = new QTableView;
     grid->setObjectName(QStringLiteral("DataGrid1"));
     grid->setModel(players);
@@ -92,13 +78,6 @@ TacticsScreen::TacticsScreen(game::Context context, QWidget *parent) : QWidget(p
     systems->addWidget(thrower, 4, 0);
     systems->setRowStretch(5, 1);
 
-    auto *back = new QPushButton(tr("<- VOLVER"));
-    back->setObjectName(QStringLiteral("cmdVOLVER"));
-    connect(back, &QPushButton::clicked, this, &TacticsScreen::closeRequested);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(back);
-
     auto *body = new QHBoxLayout;
     body->setSpacing(30);
     body->addLayout(systems);
@@ -107,12 +86,7 @@ TacticsScreen::TacticsScreen(game::Context context, QWidget *parent) : QWidget(p
     squadColumn->addWidget(grid, 1);
     body->addLayout(squadColumn, 1);
 
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(28, 16, 28, 16);
-    layout->setSpacing(12);
-    layout->addWidget(theme::heading(tr("TÁCTICA")));
-    layout->addLayout(body, 1);
-    layout->addLayout(buttons);
+    addLayout(body, 1);
     showSystems();
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "common/page.h"
 #include "context.h"
-
-#include <QWidget>
 
 class QComboBox;
 class QLabel;
@@ -10,15 +9,12 @@ class QLabel;
 namespace ui {
 
 // "Táctica": the club's systems in defence and attack, each with its diagram.
-class TacticsScreen : public QWidget
+class TacticsScreen : public Page
 {
     Q_OBJECT
 
 public:
     explicit TacticsScreen(game::Context context, QWidget *parent = nullptr);
-
-signals:
-    void closeRequested();
 
 private:
     void showSystems();

@@ -1,21 +1,17 @@
 #pragma once
 
+#include "common/page.h"
 #include "context.h"
-
-#include <QWidget>
 
 namespace ui {
 
 // "El Calendario": the user's match of this week and of the weeks after it.
-class CalendarScreen : public QWidget
+class CalendarScreen : public Page
 {
     Q_OBJECT
 
 public:
     CalendarScreen(game::Context context, int currentWeek, QWidget *parent = nullptr);
-
-signals:
-    void closeRequested();
 };
 
 } // namespace ui

@@ -7,39 +7,20 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace ui {
 
-namespace {
-
-const QString kNameCell = QStringLiteral("color: #ffffff; background: #162a50; padding: 4px 12px;");
-// The user's club stands out in dark yellow on both names of its match, whichever side it plays.
-const QString kUserNameCell =
-    QStringLiteral("color: #10203f; background: rgb(192, 192, 0); font-weight: bold; padding: 4px 12px;");
-const QString kGoalsCell =
-    QStringLiteral("color: #ffffff; background: #1b2f57; border: 1px solid #3a5486; font-weight: bold; font-size: 16px;");
-
-} // namespace
-
-RoundsScreen::RoundsScreen(game::Context context, QWidget *parent) : QWidget(parent), m_results(context)
+RoundsScreen::RoundsScreen(game::Context context, QWidget *parent)
+    : Page("Resultados", tr("Resultados"), tr("RESULTADOS ASOBAL"), parent), m_results(context)
 {
-    setObjectName(QStringLiteral("Resultados"));
-    setWindowTitle(tr("Resultados"));
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral("QWidget#Resultados { background-color: #0f1e3c; }"));
-
-    QLabel *league = plainLabel(tr("LIGA - ASOBAL"));
+    setFrame(28, 16, 14);
+    QLabel *league = theme::label("subheading", tr("LIGA - ASOBAL"));
     league->setAlignment(Qt::AlignCenter);
-    league->setStyleSheet(QStringLiteral("color: #b9c3d8; font-size: 16px; font-weight: bold; letter-spacing: 1px;"));
 
-    QLabel *matchesOf = plainLabel(tr("PARTIDOS DE LA JORNADA"));
-    matchesOf->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
     m_roundLabel = plainLabel();
     m_roundLabel->setObjectName(QStringLiteral("lblJornada"));
     m_roundLabel->setAlignment(Qt::AlignCenter);
     m_roundLabel->setFixedWidth(56);
-    m_roundLabel->setStyleSheet(QStringLiteral("color: #ffffff; font-size: 20px; font-weight: bold;"));
     auto *less = new QPushButton(QStringLiteral("<"));
     less->setObjectName(QStringLiteral("cmdmenos"));
     less->setToolTip(tr("Jornada anterior"));
@@ -60,7 +41,7 @@ RoundsScreen::RoundsScreen(game::Context context, QWidget *parent) : QWidget(par
     auto *roundBar = new QHBoxLayout;
     roundBar->setSpacing(12);
     roundBar->addStretch();
-    roundBar->addWidget(matchesOf);
+    roundBar->addWidget(theme::label("caption", tr("PARTIDOS DE LA JORNADA")));
     roundBar->addSpacing(12);
     roundBar->addWidget(less);
     roundBar->addWidget(m_roundLabel);
@@ -75,61 +56,38 @@ RoundsScreen::RoundsScreen(game::Context context, QWidget *parent) : QWidget(par
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(10);
     for (int i = 0; i < kMatches; ++i) {
-        auto place = [&](const char *name, int column, Qt::Alignment alignment) {
+        auto place = [&](const char *name, int column, Qt::Alignment alignment, const char *role) {
             QLabel *label = indexed::label(name, i);
             label->setAlignment(alignment | Qt::AlignVCenter);
             label->setFixedHeight(36);
+            label->setProperty("role", QString::fromLatin1(role));
             grid->addWidget(label, i, column);
             return label;
         };
-        m_home[std::size_t(i)] = place("lblEquipoL", 0, Qt::AlignRight);
-        m_homeGoals[std::size_t(i)] = place("lblRL", 1, Qt::AlignHCenter);
-        QLabel *dash = plainLabel(QStringLiteral("-"));
+        m_home[std::size_t(i)] = place("lblEquipoL", 0, Qt::AlignRight, "cell");
+        m_homeGoals[std::size_t(i)] = place("lblRL", 1, Qt::AlignHCenter, "goals");
+        QLabel *dash = theme::label("field", QStringLiteral("-"));
         dash->setAlignment(Qt::AlignCenter);
-        dash->setStyleSheet(QStringLiteral("color: #b9c3d8; font-weight: bold;"));
         grid->addWidget(dash, i, 2);
-        m_awayGoals[std::size_t(i)] = place("lblRV", 3, Qt::AlignHCenter);
-        m_away[std::size_t(i)] = place("lblEquipoV", 4, Qt::AlignLeft);
+        m_awayGoals[std::size_t(i)] = place("lblRV", 3, Qt::AlignHCenter, "goals");
+        m_away[std::size_t(i)] = place("lblEquipoV", 4, Qt::AlignLeft, "cell");
         m_homeGoals[std::size_t(i)]->setFixedWidth(56);
         m_awayGoals[std::size_t(i)]->setFixedWidth(56);
-        m_homeGoals[std::size_t(i)]->setStyleSheet(kGoalsCell);
-        m_awayGoals[std::size_t(i)]->setStyleSheet(kGoalsCell);
     }
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(4, 1);
 
-    auto *back = new QPushButton(tr("<- VOLVER"));
-    back->setObjectName(QStringLiteral("cmdVOLVER"));
-    connect(back, &QPushButton::clicked, this, &RoundsScreen::closeRequested);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(back);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(28, 16, 28, 16);
-    layout->setSpacing(14);
-    layout->addWidget(theme::heading(tr("RESULTADOS ASOBAL")));
-    layout->addWidget(league);
-    layout->addLayout(roundBar);
-    layout->addSpacing(6);
-    layout->addWidget(table, 0, Qt::AlignHCenter);
-    layout->addStretch();
-    layout->addLayout(buttons);
+    addWidget(league);
+    addLayout(roundBar);
+    addSpacing(6);
+    addWidget(table, 0, Qt::AlignHCenter);
+    addStretch();
 
     showRound(m_results.currentRound());
 }
 
-void RoundsScreen::restart()
-{
-    for (int i = 0; i < kMatches; ++i) {
-        m_home[std::size_t(i)]->setStyleSheet(kNameCell);
-        m_away[std::size_t(i)]->setStyleSheet(kNameCell);
-    }
-}
-
 void RoundsScreen::showRound(int round)
 {
-    restart();
     m_round = round;
     m_roundLabel->setText(QString::number(round));
     const std::vector<game::RoundResults::Match> matches = m_results.round(round);
@@ -141,10 +99,10 @@ void RoundsScreen::showRound(int round)
         m_homeGoals[std::size_t(i)]->setText(match.homeGoals);
         m_awayGoals[std::size_t(i)]->setText(match.awayGoals);
         m_away[std::size_t(i)]->setText(match.away);
-        if (match.users) {
-            m_home[std::size_t(i)]->setStyleSheet(kUserNameCell);
-            m_away[std::size_t(i)]->setStyleSheet(kUserNameCell);
-        }
+        // The user's match stands out on both names, whichever side it plays; the highlight
+        // leaves the row when another round gives it to other clubs.
+        theme::restyle(m_home[std::size_t(i)], "users", match.users);
+        theme::restyle(m_away[std::size_t(i)], "users", match.users);
     }
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "common/page.h"
 #include "context.h"
 #include "reports/roundresults.h"
-
-#include <QWidget>
 
 #include <array>
 
@@ -13,22 +12,17 @@ namespace ui {
 
 // "Resultados": the eight matches of one league round, with their scores. It opens on the
 // round of the current week, and the player can walk through all thirty. It writes nothing.
-class RoundsScreen : public QWidget
+class RoundsScreen : public Page
 {
     Q_OBJECT
 
 public:
     explicit RoundsScreen(game::Context context, QWidget *parent = nullptr);
 
-signals:
-    void closeRequested();
-
 private:
     static constexpr int kMatches = 8;
 
     void showRound(int round);
-    // Every row back to the normal background, before another round is filled.
-    void restart();
 
     game::RoundResults m_results;
     int m_round = game::RoundResults::kFirstRound;

@@ -8,9 +8,6 @@
 #include "reports/standings.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 namespace ui {
 
@@ -32,16 +29,14 @@ const Column kColumns[] = {
     {"lblPG", "PG", true},    {"lblPE", "PE", true},          {"lblPP", "PP", true},
     {"lbGF", "G F", true},    {"lbGC", "G C", true},          {"lblPtos", "Ptos", true},
 };
+constexpr int kPointsColumn = 8;
 
 } // namespace
 
-StandingsScreen::StandingsScreen(game::Context context, QWidget *parent) : QWidget(parent)
+StandingsScreen::StandingsScreen(game::Context context, QWidget *parent)
+    : Page("Clasificacion", tr("La Clasificación"), tr("LA CLASIFICACIÓN"), parent)
 {
-    setObjectName(QStringLiteral("Clasificacion"));
-    setWindowTitle(tr("La Clasificación"));
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral("QWidget#Clasificacion { background-color: #0f1e3c; }"));
-
+    setFrame(28, 12, 10);
     // The table is read afresh at every opening, and reading it writes the places.
     const std::vector<game::Standings::Row> rows = game::Standings(context).look();
     const int userClub = game::CareerRow::current(context).club;
@@ -52,8 +47,7 @@ StandingsScreen::StandingsScreen(game::Context context, QWidget *parent) : QWidg
     // The crest stands in a column of its own, between the place and the name.
     auto gridColumn = [](int column) { return column == 0 ? 0 : column + 1; };
     for (int column = 0; column < int(std::size(kColumns)); ++column) {
-        QLabel *header = plainLabel(tr(kColumns[column].header));
-        header->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
+        QLabel *header = theme::label("caption", tr(kColumns[column].header));
         header->setAlignment(kColumns[column].number ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
         // The name's header stands over the crests as well.
         if (column == 1)
@@ -62,9 +56,6 @@ StandingsScreen::StandingsScreen(game::Context context, QWidget *parent) : QWidg
             grid->addWidget(header, 0, gridColumn(column));
     }
 
-    const QString cell = QStringLiteral("color: #ffffff; background: #162a50; padding: 2px 8px;");
-    const QString userCell = QStringLiteral(
-        "color: #10203f; background: #e8a33d; font-weight: bold; padding: 2px 8px;");
     for (int i = 0; i < kPlaces; ++i) {
         // The places are fixed; a club missing from the store leaves its row empty.
         const game::Standings::Row *row = i < int(rows.size()) ? &rows[std::size_t(i)] : nullptr;
@@ -83,8 +74,11 @@ StandingsScreen::StandingsScreen(game::Context context, QWidget *parent) : QWidg
         for (int column = 0; column < int(std::size(kColumns)); ++column) {
             QLabel *label = indexed::label(kColumns[column].name, i);
             label->setText(values[column]);
-            // The points are what the table is ordered by, so they stand out.
-            label->setStyleSheet(users ? userCell : column == 8 ? cell + QStringLiteral("font-weight: bold;") : cell);
+            label->setProperty("role", QStringLiteral("cell"));
+            // The user's club is the one row that stands out; the points are what the table is
+            // ordered by, so they stand out too.
+            label->setProperty("users", users);
+            label->setProperty("strong", column == kPointsColumn);
             label->setAlignment(kColumns[column].number ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
             label->setFixedHeight(26);
             grid->addWidget(label, i + 1, gridColumn(column));
@@ -100,20 +94,8 @@ StandingsScreen::StandingsScreen(game::Context context, QWidget *parent) : QWidg
         grid->setColumnStretch(column, 1);
     grid->setColumnMinimumWidth(0, 56);
 
-    auto *back = new QPushButton(tr("<- VOLVER"));
-    back->setObjectName(QStringLiteral("cmdVOLVER"));
-    connect(back, &QPushButton::clicked, this, &StandingsScreen::closeRequested);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(back);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(28, 12, 28, 12);
-    layout->setSpacing(10);
-    layout->addWidget(theme::heading(tr("LA CLASIFICACIÓN")));
-    layout->addLayout(grid);
-    layout->addStretch();
-    layout->addLayout(buttons);
+    addLayout(grid);
+    addStretch();
 }
 
 } // namespace ui

@@ -15,19 +15,10 @@ namespace {
 
 const QSize kCrest(150, 150);
 
-QLabel *caption(const QString &text)
-{
-    QLabel *label = plainLabel(text);
-    label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
-    return label;
-}
-
 QLabel *value(const char *name, const QString &text)
 {
-    QLabel *label = plainLabel(text);
+    QLabel *label = theme::label("cell", text);
     label->setObjectName(QString::fromLatin1(name));
-    label->setStyleSheet(
-        QStringLiteral("color: #ffffff; background: #162a50; font-weight: bold; padding: 4px 10px;"));
     label->setMinimumHeight(30);
     return label;
 }
@@ -38,7 +29,7 @@ QVBoxLayout *bottomPair(const QString &title, const char *lastName, const char *
 {
     auto *block = new QVBoxLayout;
     block->setSpacing(6);
-    block->addWidget(caption(title));
+    block->addWidget(theme::label("caption", title));
     block->addWidget(value(lastName, verdict.last));
     block->addWidget(value(secondLastName, verdict.secondLast));
     return block;
@@ -52,7 +43,6 @@ VerdictScreen::VerdictScreen(const game::SeasonClose::Verdict &verdict, QWidget 
     setObjectName(QStringLiteral("Finall"));
     setWindowTitle(tr("Resultados Finales"));
     setModal(true);
-    setStyleSheet(QStringLiteral("QDialog#Finall { border: 2px solid #e8a33d; }"));
 
     // The champion: its crest over its name.
     QLabel *crest = plainLabel();
@@ -65,7 +55,6 @@ VerdictScreen::VerdictScreen(const game::SeasonClose::Verdict &verdict, QWidget 
     champion->setObjectName(QStringLiteral("win"));
     champion->setAlignment(Qt::AlignCenter);
     champion->setWordWrap(true);
-    champion->setStyleSheet(QStringLiteral("color: #ffffff; font-size: 22px; font-weight: bold;"));
     QLabel *title = theme::heading(tr("CAMPEÓN DE LA LIGA ASOBAL"));
     title->setWordWrap(true);
     auto *championBlock = new QVBoxLayout;
@@ -84,7 +73,7 @@ VerdictScreen::VerdictScreen(const game::SeasonClose::Verdict &verdict, QWidget 
     auto *yours = new QGroupBox(tr("TUS RESULTADOS"));
     auto *yoursLayout = new QHBoxLayout(yours);
     yoursLayout->setContentsMargins(14, 12, 14, 12);
-    yoursLayout->addWidget(caption(tr("Posición Alcanzada:")));
+    yoursLayout->addWidget(theme::label("caption", tr("Posición Alcanzada:")));
     QLabel *place = value("pos", QString::number(verdict.userPlace));
     place->setAlignment(Qt::AlignCenter);
     place->setFixedWidth(70);

@@ -1,5 +1,6 @@
 #include "broadcastscreen.h"
 
+#include "common/artwork_paint.h"
 #include "common/plainlabel.h"
 
 #include <QCloseEvent>
@@ -19,7 +20,7 @@ const QSize kPictureSize(210, 180);
 
 // An old television set on its legs, its antennas up, the match live on its screen: a
 // handball court with the two sides and a red "EN DIRECTO" mark.
-QPixmap televisionSet(QSize size)
+QPixmap televisionSet(int, QSize size)
 {
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
@@ -125,24 +126,20 @@ BroadcastScreen::BroadcastScreen(game::Week &week, QWidget *parent)
 {
     setObjectName(QStringLiteral("Tele"));
     setWindowTitle(tr("Televisión"));
-    setStyleSheet(QStringLiteral("QDialog#Tele { border: 2px solid #e8a33d; }"));
 
     auto *picture = plainLabel();
     picture->setObjectName(QStringLiteral("Image1"));
     picture->setFixedSize(kPictureSize);
-    picture->setPixmap(televisionSet(kPictureSize));
+    picture->setPixmap(artwork::detail::cached("television", 0, kPictureSize, televisionSet));
 
     QLabel *bought = plainLabel(tr("La Televisión ha comprado los derechos de retransmisión del partido que vas a disputar."));
     bought->setObjectName(QStringLiteral("Label1"));
     bought->setWordWrap(true);
-    bought->setStyleSheet(QStringLiteral("font-size: 15px;"));
     // The channel that bought it, drawn by the week's events.
     m_channel = plainLabel(week.broadcast().value_or(QString()));
     m_channel->setObjectName(QStringLiteral("lblTV"));
-    m_channel->setStyleSheet(QStringLiteral("color: #e8a33d; font-size: 24px; font-weight: bold;"));
     QLabel *fee = plainLabel(tr("Tus Ingresos Aumentarán: 450.000 €"));
     fee->setObjectName(QStringLiteral("Label2"));
-    fee->setStyleSheet(QStringLiteral("color: #ffffff; font-size: 16px; font-weight: bold;"));
 
     auto *ok = new QPushButton(tr("OK"));
     ok->setObjectName(QStringLiteral("cmdOK"));

@@ -31,11 +31,10 @@ const Line kSpending[] = {{"lblContratar", "CONTRATAR JUGADOR"}, {"lblRescindir"
                           {"lblEmpleados", "SALARIO EMPLEADOS"}, {"lblRemodelar", "REMODELAR ESTADIO"},
                           {"lblTG", "TOTAL GASTOS"}};
 
+// A line's caption; the totals stand out in amber.
 QLabel *captionLabel(const char *text, bool total = false)
 {
-    auto *label = plainLabel(QString::fromUtf8(text));
-    label->setStyleSheet(total ? QStringLiteral("color: #e8a33d; font-weight: bold;") : QStringLiteral("color: #b9c3d8;"));
-    return label;
+    return theme::label(total ? "caption" : "muted", QString::fromUtf8(text));
 }
 
 QLabel *amountLabel(const char *name, int index)
@@ -43,15 +42,13 @@ QLabel *amountLabel(const char *name, int index)
     QLabel *label = indexed::label(name, index);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     label->setMinimumWidth(130);
-    label->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold;"));
+    label->setProperty("role", QStringLiteral("value"));
     return label;
 }
 
 void addLines(QGridLayout *grid, int column, const char *heading, const Line *lines, int count, int index)
 {
-    auto *title = plainLabel(QString::fromUtf8(heading));
-    title->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold; font-size: 15px;"));
-    grid->addWidget(title, 0, column, 1, 2);
+    grid->addWidget(theme::label("section", QString::fromUtf8(heading)), 0, column, 1, 2);
     for (int i = 0; i < count; ++i) {
         const bool total = i == count - 1;
         grid->addWidget(captionLabel(lines[i].caption, total), i + 1, column);
@@ -62,31 +59,23 @@ void addLines(QGridLayout *grid, int column, const char *heading, const Line *li
 } // namespace
 
 LedgerScreen::LedgerScreen(game::Context context, int currentWeek, QWidget *parent)
-    : QWidget(parent), m_context(context), m_browser(currentWeek)
+    : Page("Caja", tr("LA CAJA"), tr("LA CAJA"), parent), m_context(context), m_browser(currentWeek)
 {
-    setObjectName(QStringLiteral("Caja"));
-    setWindowTitle(tr("LA CAJA"));
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral("QWidget#Caja { background-color: #0f1e3c; }"));
-
     m_week = buildFrame("FSemana", tr("Semana"), 0);
     m_season = buildFrame("FTemp", tr("Temporada"), 1);
     m_season->setVisible(false);
 
     // The week before, shown with the week.
     auto *before = new QGridLayout;
-    auto *beforeTitle = plainLabel(tr("SEMANA ANTERIOR"));
-    beforeTitle->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold; font-size: 15px;"));
-    before->addWidget(beforeTitle, 0, 0, 1, 2);
+    before->addWidget(theme::label("section", tr("SEMANA ANTERIOR")), 0, 0, 1, 2);
     const std::pair<const char *, const char *> previous[] = {
         {"lblIngresosAnterior", "INGRESOS"}, {"lblGastosAnterior", "GASTOS"}, {"lblCajaAnterior", "CAJA"}};
     int row = 1;
     for (const auto &[name, caption] : previous) {
         before->addWidget(captionLabel(caption), row, 0);
-        auto *amount = plainLabel();
+        auto *amount = theme::label("value");
         amount->setObjectName(QString::fromLatin1(name));
         amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        amount->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold;"));
         before->addWidget(amount, row++, 1);
     }
     // The week before stands beside the week shown.
@@ -130,9 +119,6 @@ LedgerScreen::LedgerScreen(game::Context context, int currentWeek, QWidget *pare
         m_season->setVisible(false);
         m_week->setVisible(true);
     });
-    auto *back = new QPushButton(tr("<- VOLVER"));
-    back->setObjectName(QStringLiteral("cmdVOLVER"));
-    connect(back, &QPushButton::clicked, this, &LedgerScreen::closeRequested);
 
     auto *stepper = new QHBoxLayout;
     stepper->addWidget(plainLabel(tr("SEMANA")));
@@ -143,18 +129,9 @@ LedgerScreen::LedgerScreen(game::Context context, int currentWeek, QWidget *pare
     stepper->addWidget(weekButton);
     stepper->addWidget(seasonButton);
 
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(back);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(28, 16, 28, 16);
-    layout->setSpacing(12);
-    layout->addWidget(theme::heading(tr("LA CAJA")));
-    layout->addLayout(stepper);
-    layout->addWidget(m_week, 1);
-    layout->addWidget(m_season, 1);
-    layout->addLayout(buttons);
+    addLayout(stepper);
+    addWidget(m_week, 1);
+    addWidget(m_season, 1);
     fill();
 }
 
@@ -170,9 +147,8 @@ QGroupBox *LedgerScreen::buildFrame(const char *name, const QString &caption, in
     grid->setColumnMinimumWidth(2, 40);
 
     auto *current = new QGridLayout;
-    auto *title = plainLabel(index == 0 ? tr("SEMANA ACTUAL") : tr("TEMPORADA ACTUAL"));
-    title->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold; font-size: 15px;"));
-    current->addWidget(title, 0, 0, 1, 2);
+    current->addWidget(theme::label("section", index == 0 ? tr("SEMANA ACTUAL") : tr("TEMPORADA ACTUAL")), 0, 0,
+                       1, 2);
     const std::pair<const char *, const char *> totals[] = {{"lblISA", "INGRESOS"}, {"lblGSA", "GASTOS"}, {"lblCA", "CAJA"}};
     int row = 1;
     for (const auto &[label, text] : totals) {

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "common/page.h"
 #include "context.h"
 #include "stadium/ledger.h"
-
-#include <QWidget>
 
 class QGroupBox;
 class QLineEdit;
@@ -11,15 +10,12 @@ class QLineEdit;
 namespace ui {
 
 // "LA CAJA": the money of one week, or the sums of the season, with the week before.
-class LedgerScreen : public QWidget
+class LedgerScreen : public Page
 {
     Q_OBJECT
 
 public:
     LedgerScreen(game::Context context, int currentWeek, QWidget *parent = nullptr);
-
-signals:
-    void closeRequested();
 
 private:
     QGroupBox *buildFrame(const char *name, const QString &caption, int index);

@@ -1,5 +1,7 @@
 #include "stadiumpicture.h"
 
+#include "common/artwork_paint.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -294,9 +296,7 @@ void drawTownHall(QPainter &p, qreal w, qreal h)
     p.drawPolygon(path);
 }
 
-} // namespace
-
-QPixmap stadiumPicture(int picture, QSize size)
+QPixmap drawStadium(int picture, QSize size)
 {
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
@@ -315,6 +315,13 @@ QPixmap stadiumPicture(int picture, QSize size)
     p.setBrush(Qt::NoBrush);
     p.drawRect(QRectF(1, 1, w - 2, h - 2));
     return pixmap;
+}
+
+} // namespace
+
+QPixmap stadiumPicture(int picture, QSize size)
+{
+    return artwork::detail::cached("stadium", picture, size, drawStadium);
 }
 
 } // namespace ui

@@ -15,7 +15,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyle>
 #include <QVBoxLayout>
 
 #include <span>
@@ -109,34 +108,15 @@ const WorksRow kWorksRows[] = {
     {Item::Cafeterias, "lblServicios", 7, "SEP", "SES", 3, "  CAFETERÍA"},
 };
 
-// The cells of the works table: dark on light, so that a work's black price reads; a work
-// under way paints its name red and its weeks orange.
-const QString kCell = QStringLiteral("background: #dfe4ee; border-radius: 3px; padding: 5px 10px; color: %1;%2");
-
-QString cellStyle(const char *colour, bool bold = false)
-{
-    return kCell.arg(QString::fromLatin1(colour), bold ? QStringLiteral(" font-weight: bold;") : QString());
-}
-
 QString boxName(int number)
 {
     return QStringLiteral("Option%1").arg(number);
 }
 
-QLabel *amber(const QString &text, int pixels = 0)
+QLabel *value(const char *name)
 {
-    QLabel *label = plainLabel(text);
-    label->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;%1")
-                             .arg(pixels ? QStringLiteral(" font-size: %1px;").arg(pixels) : QString()));
-    return label;
-}
-
-QLabel *value(const char *name, int pixels = 0)
-{
-    QLabel *label = plainLabel();
+    QLabel *label = theme::label("value");
     label->setObjectName(QString::fromLatin1(name));
-    label->setStyleSheet(QStringLiteral("color: #ffffff; font-weight: bold;%1")
-                             .arg(pixels ? QStringLiteral(" font-size: %1px;").arg(pixels) : QString()));
     return label;
 }
 
@@ -170,9 +150,7 @@ void showOnly(const Level &level, QWidget *shown)
     for (const auto &[button, frame] : level) {
         if (frame == shown)
             frame->setVisible(true);
-        button->setProperty("open", frame == shown);
-        button->style()->unpolish(button);
-        button->style()->polish(button);
+        theme::restyle(button, "open", frame == shown);
     }
 }
 
@@ -235,20 +213,10 @@ QGroupBox *itemsFrame(const char *name, const QString &caption, std::span<const 
 } // namespace
 
 StadiumScreen::StadiumScreen(game::Context context, game::Week &week, QWidget *parent)
-    : QWidget(parent), m_context(context), m_week(week), m_seats(new QButtonGroup(this)),
-      m_parking(new QButtonGroup(this))
+    : Page("estadios", tr("Remodelar Estadio"), tr("REMODELAR ESTADIO"), parent), m_context(context),
+      m_week(week), m_seats(new QButtonGroup(this)), m_parking(new QButtonGroup(this))
 {
-    setObjectName(QStringLiteral("estadios"));
-    setWindowTitle(tr("Remodelar Estadio"));
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral(
-        "QWidget#estadios { background-color: #0f1e3c; }"
-        "QCheckBox, QRadioButton { color: #f1f3f8; spacing: 8px; padding: 2px 0; }"
-        "QCheckBox:disabled, QRadioButton:disabled { color: #66718c; }"
-        "QGroupBox:disabled { color: #7d869c; }"
-        "QPushButton { padding: 6px 14px; border: 2px solid transparent; }"
-        "QPushButton[open=\"true\"] { background-color: #36508a; border-color: #e8a33d; }"));
-
+    setFrame(24, 12, 8);
     for (int number = 1; number <= kBoxes; ++number)
         m_boxes[std::size_t(number - 1)] = makeBox(number);
 
@@ -260,8 +228,7 @@ StadiumScreen::StadiumScreen(game::Context context, game::Week &week, QWidget *p
     m_picture = plainLabel();
     m_picture->setObjectName(QStringLiteral("img"));
     m_picture->setFixedSize(kPictureSize);
-    m_picture->setPixmap(stadiumPicture(0, kPictureSize));
-    QLabel *name = value("lblEstadio", 17);
+    QLabel *name = value("lblEstadio");
     name->setWordWrap(true);
     auto *facts = new QGridLayout;
     facts->setHorizontalSpacing(10);
@@ -277,7 +244,6 @@ StadiumScreen::StadiumScreen(game::Context context, game::Week &week, QWidget *p
     matchDay->setToolTip(tr("Precios de las entradas y de la publicidad, en las semanas en que juegas en casa"));
     auto *apply = button(QStringLiteral("cmdYA"), tr("APLICAR REMODELACIÓN"), false);
     apply->setToolTip(tr("Encarga las obras marcadas"));
-    auto *back = button(QStringLiteral("cmdVOLVER"), tr("<- VOLVER"), false);
 
     const Level mainLevel = {{works, m_works}, {remodel, m_remodel}, {matchDay, m_matchDay}};
     connect(works, &QPushButton::clicked, this, [mainLevel, this] { showOnly(mainLevel, m_works); });
@@ -290,7 +256,6 @@ StadiumScreen::StadiumScreen(game::Context context, game::Week &week, QWidget *p
     });
     showOnly(mainLevel, m_works);
     connect(apply, &QPushButton::clicked, this, &StadiumScreen::orderWorks);
-    connect(back, &QPushButton::clicked, this, &StadiumScreen::closeRequested);
 
     auto *side = new QVBoxLayout;
     side->setSpacing(8);
@@ -313,16 +278,7 @@ StadiumScreen::StadiumScreen(game::Context context, game::Week &week, QWidget *p
     body->addLayout(side);
     body->addLayout(frames, 1);
 
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(back);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(24, 12, 24, 12);
-    layout->setSpacing(8);
-    layout->addWidget(theme::heading(tr("REMODELAR ESTADIO")));
-    layout->addLayout(body, 1);
-    layout->addLayout(buttons);
+    addLayout(body, 1);
     load();
 }
 
@@ -355,8 +311,8 @@ QGroupBox *StadiumScreen::buildWorks()
     grid->setContentsMargins(16, 14, 16, 10);
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(5);
-    grid->addWidget(amber(tr("PRECIO")), 0, 1, Qt::AlignCenter);
-    grid->addWidget(amber(tr("SEM")), 0, 2, Qt::AlignCenter);
+    grid->addWidget(theme::label("caption", tr("PRECIO")), 0, 1, Qt::AlignCenter);
+    grid->addWidget(theme::label("caption", tr("SEM")), 0, 2, Qt::AlignCenter);
     grid->setColumnStretch(0, 1);
     grid->setColumnMinimumWidth(1, 170);
     grid->setColumnMinimumWidth(2, 80);
@@ -365,7 +321,7 @@ QGroupBox *StadiumScreen::buildWorks()
         QLabel *label = index < 0 ? plainLabel() : indexed::label(name, index);
         if (index < 0)
             label->setObjectName(QString::fromLatin1(name));
-        label->setStyleSheet(cellStyle("#10203f"));
+        label->setProperty("role", QStringLiteral("work"));
         return label;
     };
     const std::pair<int, const char *> blocks[] = {
@@ -374,7 +330,7 @@ QGroupBox *StadiumScreen::buildWorks()
     for (std::size_t i = 0; i < std::size(kWorksRows); ++i) {
         for (const auto &[first, heading] : blocks) {
             if (std::size_t(first) == i)
-                grid->addWidget(amber(QString::fromUtf8(heading)), row++, 0);
+                grid->addWidget(theme::label("caption", QString::fromUtf8(heading)), row++, 0);
         }
         const WorksRow &line = kWorksRows[i];
         QLabel *nameCell = cell(line.nameCell, line.nameIndex);
@@ -421,9 +377,8 @@ QGroupBox *StadiumScreen::buildRemodel()
     for (const auto &[widget, shown] : level)
         frames->addWidget(shown);
     frames->addStretch();
-    QLabel *hint = plainLabel(tr("Marca una mejora de cada grupo y pulsa «APLICAR REMODELACIÓN». "
-                                 "Cada obra se paga cuando termina."));
-    hint->setProperty("role", QStringLiteral("hint"));
+    QLabel *hint = theme::label("hint", tr("Marca una mejora de cada grupo y pulsa «APLICAR REMODELACIÓN». "
+                                           "Cada obra se paga cuando termina."));
     hint->setWordWrap(true);
     frames->addWidget(hint);
     linkLevel(level);
@@ -449,9 +404,7 @@ QGroupBox *StadiumScreen::buildSeats()
     grid->setVerticalSpacing(12);
     for (int i = 0; i < 3; ++i) {
         grid->addWidget(m_boxes[std::size_t(i)], i, 0);
-        QLabel *promise = plainLabel(QString::fromUtf8(promises[i]));
-        promise->setStyleSheet(QStringLiteral("color: #b9c3d8;"));
-        grid->addWidget(promise, i, 1);
+        grid->addWidget(theme::label("muted", QString::fromUtf8(promises[i])), i, 1);
     }
     grid->setColumnStretch(1, 1);
     return seats;
@@ -471,19 +424,19 @@ QGroupBox *StadiumScreen::buildParking()
 QGroupBox *StadiumScreen::buildMatchDay()
 {
     QGroupBox *matchDay = frame(QStringLiteral("Entradas"), tr("Entradas"));
-    QLabel *title = amber(tr("DÍA DE PARTIDO"), 20);
+    QLabel *title = theme::label("title", tr("DÍA DE PARTIDO"));
     title->setAlignment(Qt::AlignCenter);
-    QLabel *stadium = value("lblEstadio2", 16);
+    QLabel *stadium = value("lblEstadio2");
     stadium->setAlignment(Qt::AlignCenter);
-    QLabel *home = value("lblEquipoLoc", 20);
+    QLabel *home = value("lblEquipoLoc");
     home->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    QLabel *away = value("lblEquipoVis", 20);
-    QLabel *type = amber(QString(), 15);
+    QLabel *away = value("lblEquipoVis");
+    QLabel *type = theme::label("section");
     type->setObjectName(QStringLiteral("lblTipo"));
     type->setAlignment(Qt::AlignCenter);
     auto *fixture = new QHBoxLayout;
     fixture->addWidget(home, 1);
-    fixture->addWidget(amber(QStringLiteral("vs"), 18));
+    fixture->addWidget(theme::label("versus", QStringLiteral("vs")));
     fixture->addWidget(away, 1);
 
     // A price is stepped by its buttons and written at each press; the field only shows it.
@@ -494,7 +447,6 @@ QGroupBox *StadiumScreen::buildMatchDay()
         field->setFocusPolicy(Qt::NoFocus);
         field->setAlignment(Qt::AlignCenter);
         field->setFixedWidth(90);
-        field->setStyleSheet(QStringLiteral("font-size: 18px; font-weight: bold;"));
         return field;
     };
     m_ticket = priceField("txtEntrada");
@@ -507,8 +459,6 @@ QGroupBox *StadiumScreen::buildMatchDay()
     dearer->setToolTip(tr("Subir 5 € la entrada"));
     fewer->setToolTip(tr("Bajar 100 € la valla"));
     more->setToolTip(tr("Subir 100 € la valla"));
-    for (QPushButton *step : {cheaper, dearer, fewer, more})
-        step->setStyleSheet(QStringLiteral("min-width: 40px; font-size: 18px;"));
     connect(cheaper, &QPushButton::clicked, this,
             [this] { m_ticket->setText(QString::number(game::Prices(m_context).lowerTicket())); });
     connect(dearer, &QPushButton::clicked, this,
@@ -523,7 +473,7 @@ QGroupBox *StadiumScreen::buildMatchDay()
     prices->setVerticalSpacing(10);
     auto addPrice = [prices](int row, const QString &heading, const QString &caption, QPushButton *down,
                              QLineEdit *field, QPushButton *up) {
-        prices->addWidget(amber(heading, 15), row, 0, 1, 6);
+        prices->addWidget(theme::label("section", heading), row, 0, 1, 6);
         prices->addWidget(theme::fieldCaption(caption), row + 1, 0);
         prices->addWidget(down, row + 1, 1);
         prices->addWidget(field, row + 1, 2);
@@ -599,9 +549,9 @@ void StadiumScreen::showUnderWay(const game::Works::UnderWay &work)
             nameCell->setText(tr("4 Parkings"));
         price->setText(QString::number(work.cost));
         weeks->setText(QString::number(work.weeksLeft));
-        nameCell->setStyleSheet(cellStyle("#c81e1e", true));
-        price->setStyleSheet(cellStyle("#000000"));
-        weeks->setStyleSheet(cellStyle("#e07b00", true));
+        nameCell->setProperty("underway", QStringLiteral("name"));
+        price->setProperty("underway", QStringLiteral("price"));
+        weeks->setProperty("underway", QStringLiteral("weeks"));
         return;
     }
 }

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "career/week.h"
+#include "common/page.h"
 #include "context.h"
 #include "stadium/works.h"
-
-#include <QWidget>
 
 #include <array>
 
@@ -20,15 +19,12 @@ namespace ui {
 // "REMODELAR ESTADIO": the works under way, the works the stadium can take next, and on a
 // home match's week the prices of tickets and boards. Everything is read afresh each time the
 // screen opens; only the ticks of the boxes live on the screen, and they go when it closes.
-class StadiumScreen : public QWidget
+class StadiumScreen : public Page
 {
     Q_OBJECT
 
 public:
     StadiumScreen(game::Context context, game::Week &week, QWidget *parent = nullptr);
-
-signals:
-    void closeRequested();
 
 private:
     QGroupBox *buildWorks();

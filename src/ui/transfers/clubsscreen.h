@@ -1,11 +1,9 @@
 #pragma once
 
+#include "common/page.h"
 #include "context.h"
 
-#include <QWidget>
-
 class QLabel;
-class QListWidget;
 
 namespace ui {
 
@@ -13,7 +11,7 @@ class PlayerGrid;
 
 // "Fichar" (heading "OFERTAS"): from a country to its clubs, from a club to its squad, so
 // that any player of any club can be made an offer, whether his club sells him or not.
-class ClubsScreen : public QWidget
+class ClubsScreen : public Page
 {
     Q_OBJECT
 
@@ -23,21 +21,12 @@ public:
 signals:
     // A row of the squad was picked: an offer for that player.
     void playerPicked(int player);
-    void closeRequested();
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QWidget *buildCountries();
     QWidget *buildSquad();
-    void chooseCountry(int code, const QString &caption);
     void chooseClub(const QString &name);
 
     game::Context m_context;
-    QLabel *m_countryChosen;
-    QLabel *m_countryHovered;
-    QListWidget *m_clubs;
     QLabel *m_clubChosen;
     QLabel *m_squadHint;
     PlayerGrid *m_squad;

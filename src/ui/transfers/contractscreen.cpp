@@ -17,18 +17,14 @@
 
 namespace ui {
 
-ContractScreen::ContractScreen(game::Context context, QWidget *parent) : QWidget(parent), m_context(context)
+ContractScreen::ContractScreen(game::Context context, QWidget *parent)
+    : Page("Renovar", tr("Situación en el Club"), tr("SITUACIÓN EN EL CLUB"),
+           {Back::Side::Left, "cmdCancelar", tr("CANCELAR")}, parent),
+      m_context(context)
 {
-    setObjectName(QStringLiteral("Renovar"));
-    setWindowTitle(tr("Situación en el Club"));
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral("QWidget#Renovar { background-color: #0f1e3c; }"
-                                 "QCheckBox { color: #f1f3f8; spacing: 8px; }"));
-
     m_card = new PlayerCard;
-    m_listing = plainLabel();
+    m_listing = theme::label("caption");
     m_listing->setObjectName(QStringLiteral("lbltr"));
-    m_listing->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
     m_listing->setMinimumHeight(24);
     // The contract he has now, to weigh the new one against: the boxes start from it and may
     // have been changed since.
@@ -50,11 +46,11 @@ ContractScreen::ContractScreen(game::Context context, QWidget *parent) : QWidget
     m_clausula = terms->clausula();
     m_ficha = terms->ficha();
     m_years = terms->years();
-    auto *rules = plainLabel(tr("Los años se suman a los que le quedan, hasta %1 en total. El jugador pide al menos "
-                                "%2 € más de ficha y no acepta una cláusula de más de vez y media la actual.")
-                                 .arg(game::Contracts::kMostYears)
-                                 .arg(game::Contracts::kWageRise));
-    rules->setProperty("role", QStringLiteral("hint"));
+    auto *rules = theme::label("hint", tr("Los años se suman a los que le quedan, hasta %1 en total. El jugador pide "
+                                          "al menos %2 € más de ficha y no acepta una cláusula de más de vez y media "
+                                          "la actual.")
+                                           .arg(game::Contracts::kMostYears)
+                                           .arg(game::Contracts::kWageRise));
     rules->setWordWrap(true);
     terms->addNote(rules);
 
@@ -63,10 +59,6 @@ ContractScreen::ContractScreen(game::Context context, QWidget *parent) : QWidget
     body->addWidget(player, 1);
     body->addWidget(terms, 1);
 
-    auto *cancel = new QPushButton(tr("CANCELAR"));
-    cancel->setObjectName(QStringLiteral("cmdCancelar"));
-    cancel->setProperty("role", QStringLiteral("secondary"));
-    connect(cancel, &QPushButton::clicked, this, &ContractScreen::closeRequested);
     m_dismiss = new QPushButton(tr("DESPEDIR"));
     m_dismiss->setObjectName(QStringLiteral("cmdDespedir"));
     m_dismiss->setToolTip(tr("Lo deja libre; el club le paga la ficha de cada año de contrato que le queda"));
@@ -81,20 +73,11 @@ ContractScreen::ContractScreen(game::Context context, QWidget *parent) : QWidget
     // Each act needs a player shown.
     for (QPushButton *act : {m_renew, m_dismiss, m_list})
         act->setEnabled(false);
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(cancel);
-    buttons->addStretch();
-    buttons->addWidget(m_dismiss);
-    buttons->addWidget(m_list);
-    buttons->addSpacing(16);
-    buttons->addWidget(m_renew);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(28, 16, 28, 16);
-    layout->setSpacing(12);
-    layout->addWidget(theme::heading(tr("SITUACIÓN EN EL CLUB")));
-    layout->addLayout(body, 1);
-    layout->addLayout(buttons);
+    foot()->addWidget(m_dismiss);
+    foot()->addWidget(m_list);
+    foot()->addSpacing(16);
+    foot()->addWidget(m_renew);
+    addLayout(body, 1);
 }
 
 void ContractScreen::showPlayer(int player)

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "common/page.h"
 #include "context.h"
 
-#include <QWidget>
 
 class QLabel;
 class QPushButton;
@@ -17,7 +17,7 @@ class YearsBox;
 // "Situación en el Club": one of the user's own players, and what can be done with his
 // contract. A renewal is answered at once; a dismissal sends him to the released players and
 // pays him every year left; "TRASPASAR" puts him on the market or takes him off it.
-class ContractScreen : public QWidget
+class ContractScreen : public Page
 {
     Q_OBJECT
 
@@ -36,7 +36,6 @@ signals:
     void renewalDone(bool renewed);
     // He has left the club.
     void dismissed();
-    void closeRequested();
 
 private:
     void renew();

@@ -38,8 +38,7 @@ QPushButton *stepButton(const char *name, const QString &text, const QString &hi
     auto *button = new QPushButton(text);
     button->setObjectName(QString::fromUtf8(name));
     button->setToolTip(hint);
-    button->setStyleSheet(QStringLiteral(
-        "QPushButton { min-width: 38px; max-width: 38px; padding: 2px 0px; font-size: 18px; }"));
+    button->setProperty("role", QStringLiteral("step"));
     return button;
 }
 

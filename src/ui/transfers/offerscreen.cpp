@@ -19,7 +19,6 @@ PlayerCard::PlayerCard(QWidget *parent) : QWidget(parent)
 {
     m_name = plainLabel();
     m_name->setObjectName(QStringLiteral("lblNombre"));
-    m_name->setStyleSheet(QStringLiteral("color: #e8a33d; font-size: 20px; font-weight: bold;"));
     m_name->setWordWrap(true);
 
     auto *facts = m_grid = new QGridLayout;
@@ -49,8 +48,7 @@ PlayerCard::PlayerCard(QWidget *parent) : QWidget(parent)
 
 void PlayerCard::addSection(const QString &caption)
 {
-    QLabel *heading = plainLabel(caption);
-    heading->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold; padding-top: 14px;"));
+    QLabel *heading = theme::label("caption", caption);
     heading->setIndent(0);
     m_grid->addWidget(heading, m_grid->rowCount(), 0, 1, 2);
 }
@@ -77,14 +75,11 @@ void PlayerCard::setCard(const game::Market::Card &card)
     m_team->setText(card.equipo);
 }
 
-OfferScreen::OfferScreen(game::Context context, QWidget *parent) : QWidget(parent), m_context(context)
+OfferScreen::OfferScreen(game::Context context, QWidget *parent)
+    : Page("Fichar_Jugadores", tr("Fichar Jugador"), tr("FICHAR JUGADOR"),
+           {Back::Side::Left, "cmdCancelar", tr("CANCELAR")}, parent),
+      m_context(context)
 {
-    setObjectName(QStringLiteral("Fichar_Jugadores"));
-    setWindowTitle(tr("Fichar Jugador"));
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral("QWidget#Fichar_Jugadores { background-color: #0f1e3c; }"
-                                 "QCheckBox { color: #f1f3f8; spacing: 8px; }"));
-
     m_card = new PlayerCard;
     auto *player = new QGroupBox(tr("JUGADOR"));
     auto *playerLayout = new QVBoxLayout(player);
@@ -109,34 +104,19 @@ OfferScreen::OfferScreen(game::Context context, QWidget *parent) : QWidget(paren
     m_notes = plainLabel();
     m_notes->setObjectName(QStringLiteral("lblNotas"));
     m_notes->setWordWrap(true);
-    m_notes->setStyleSheet(QStringLiteral("color: #ffffff; font-style: italic;"));
     m_notes->setMinimumHeight(44);
 
-    auto *hint = plainLabel(tr("La respuesta llegará dentro de %1 semanas.").arg(game::Offers::kWeeksToAnswer));
-    hint->setProperty("role", QStringLiteral("hint"));
-    auto *cancel = new QPushButton(tr("CANCELAR"));
-    cancel->setObjectName(QStringLiteral("cmdCancelar"));
-    cancel->setProperty("role", QStringLiteral("secondary"));
-    connect(cancel, &QPushButton::clicked, this, &OfferScreen::closeRequested);
+    auto *hint = theme::label("hint", tr("La respuesta llegará dentro de %1 semanas.").arg(game::Offers::kWeeksToAnswer));
     m_make = new QPushButton(tr("HACER OFERTA"));
     m_make->setObjectName(QStringLiteral("cmdfichar"));
     connect(m_make, &QPushButton::clicked, this, &OfferScreen::makeOffer);
     // There is an offer to make once a player is shown.
     m_make->setEnabled(false);
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(cancel);
-    buttons->addStretch();
-    buttons->addWidget(hint);
-    buttons->addSpacing(16);
-    buttons->addWidget(m_make);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(28, 16, 28, 16);
-    layout->setSpacing(12);
-    layout->addWidget(theme::heading(tr("FICHAR JUGADOR")));
-    layout->addLayout(body, 1);
-    layout->addWidget(m_notes);
-    layout->addLayout(buttons);
+    foot()->addWidget(hint);
+    foot()->addSpacing(16);
+    foot()->addWidget(m_make);
+    addLayout(body, 1);
+    addWidget(m_notes);
 }
 
 void OfferScreen::showPlayer(int player, Mode mode)

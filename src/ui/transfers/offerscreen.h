@@ -1,9 +1,9 @@
 #pragma once
 
+#include "common/page.h"
 #include "context.h"
 #include "transfers/market.h"
 
-#include <QWidget>
 
 #include <array>
 
@@ -43,7 +43,7 @@ private:
 // clause and the wage for the player and the contract's years, and "HACER OFERTA" leaves the
 // offer waiting; nothing more happens now, and the answer comes three weeks later. Nothing
 // stands in its way: not the money, not the squad, not an earlier offer for the same player.
-class OfferScreen : public QWidget
+class OfferScreen : public Page
 {
     Q_OBJECT
 
@@ -60,9 +60,6 @@ public:
 
     // One tick of a held step button, as the timer runs it.
     void step();
-
-signals:
-    void closeRequested();
 
 private:
     void makeOffer();

@@ -1,8 +1,7 @@
 #include "playergrid.h"
 
 #include "common/gridstyle.h"
-#include "common/plainlabel.h"
-#include "common/rowsmodel.h"
+#include "common/theme.h"
 
 #include <QGridLayout>
 #include <QHeaderView>
@@ -13,47 +12,36 @@ namespace ui {
 
 namespace {
 
-QString headerOf(PlayerGrid::Column column)
-{
-    switch (column) {
-    case PlayerGrid::Column::Nombre: return QObject::tr("Nombre");
-    case PlayerGrid::Column::Apellidos: return QObject::tr("Apellidos");
-    case PlayerGrid::Column::Edad: return QObject::tr("Edad");
-    case PlayerGrid::Column::Posicion: return QObject::tr("Posición");
-    case PlayerGrid::Column::Media: return QObject::tr("Media");
-    case PlayerGrid::Column::Dorsal: return QObject::tr("Dorsal");
-    case PlayerGrid::Column::Nacionalidad: return QObject::tr("Nacionalidad");
-    // On two lines, so that the four grids of the squad fit side by side, two by two.
-    case PlayerGrid::Column::Years: return QObject::tr("Años de\ncontrato");
-    }
-    return {};
-}
+using Line = game::Market::Line;
 
-QString cellOf(const game::Market::Line &player, PlayerGrid::Column column)
+RowsModel<Line>::Column columnOf(PlayerGrid::Column column)
 {
     switch (column) {
-    case PlayerGrid::Column::Nombre: return player.nombre;
-    case PlayerGrid::Column::Apellidos: return player.apellidos;
-    case PlayerGrid::Column::Edad: return QString::number(player.edad);
-    case PlayerGrid::Column::Posicion: return player.posicion;
-    case PlayerGrid::Column::Media: return QString::number(player.media);
-    case PlayerGrid::Column::Dorsal: return QString::number(player.dorsal);
-    case PlayerGrid::Column::Nacionalidad: return player.nacionalidad;
-    case PlayerGrid::Column::Years: return QString::number(player.years);
+    case PlayerGrid::Column::Nombre: return {QObject::tr("Nombre"), [](const Line &p) { return p.nombre; }};
+    case PlayerGrid::Column::Apellidos: return {QObject::tr("Apellidos"), [](const Line &p) { return p.apellidos; }};
+    case PlayerGrid::Column::Edad: return {QObject::tr("Edad"), [](const Line &p) { return QString::number(p.edad); }};
+    case PlayerGrid::Column::Posicion: return {QObject::tr("Posición"), [](const Line &p) { return p.posicion; }};
+    case PlayerGrid::Column::Media: return {QObject::tr("Media"), [](const Line &p) { return QString::number(p.media); }};
+    case PlayerGrid::Column::Dorsal:
+        return {QObject::tr("Dorsal"), [](const Line &p) { return QString::number(p.dorsal); }};
+    case PlayerGrid::Column::Nacionalidad:
+        return {QObject::tr("Nacionalidad"), [](const Line &p) { return p.nacionalidad; }};
+    // On two lines, so that the four grids of the squad fit side by side, two by two.
+    case PlayerGrid::Column::Years:
+        return {QObject::tr("Años de\ncontrato"), [](const Line &p) { return QString::number(p.years); }};
     }
     return {};
 }
 
 } // namespace
 
-PlayerGrid::PlayerGrid(const char *name, std::vector<Column> shown, QWidget *parent)
-    : QTableView(parent), m_columns(std::move(shown))
+PlayerGrid::PlayerGrid(const char *name, const std::vector<Column> &shown, QWidget *parent) : QTableView(parent)
 {
     setObjectName(QString::fromUtf8(name));
-    QStringList headers{tr("Nº")};
-    for (Column column : m_columns)
-        headers << headerOf(column);
-    m_rows = new RowsModel(headers, this);
+    std::vector<RowsModel<Line>::Column> columns{{tr("Nº"), [](const Line &p) { return QString::number(p.id); }}};
+    for (Column column : shown)
+        columns.push_back(columnOf(column));
+    m_rows = new RowsModel<Line>(std::move(columns), this);
     setModel(m_rows);
     styleGrid(this);
     setColumnHidden(0, true);
@@ -68,23 +56,15 @@ PlayerGrid::PlayerGrid(const char *name, std::vector<Column> shown, QWidget *par
     });
 }
 
-void PlayerGrid::setPlayers(const std::vector<game::Market::Line> &players)
+void PlayerGrid::setPlayers(std::vector<game::Market::Line> players)
 {
-    std::vector<QStringList> rows;
-    rows.reserve(players.size());
-    for (const game::Market::Line &player : players) {
-        QStringList cells{QString::number(player.id)};
-        for (Column column : m_columns)
-            cells << cellOf(player, column);
-        rows.push_back(std::move(cells));
-    }
-    m_rows->setRows(std::move(rows));
+    m_rows->setRows(std::move(players));
     resizeColumnsToContents();
 }
 
 int PlayerGrid::playerAt(int row) const
 {
-    return row >= 0 && row < m_rows->rowCount() ? m_rows->row(row).at(0).toInt() : 0;
+    return row >= 0 && row < m_rows->rowCount() ? m_rows->row(row).id : 0;
 }
 
 QGridLayout *groupGrids(std::vector<PlayerGrid::Column> columns,
@@ -111,11 +91,9 @@ QGridLayout *groupGrids(std::vector<PlayerGrid::Column> columns,
         auto *grid = new PlayerGrid(group.name, columns);
         grid->setPlayers(players(group.group));
         QObject::connect(grid, &PlayerGrid::playerPicked, grid, picked);
-        QLabel *caption = plainLabel(group.caption);
-        caption->setStyleSheet(QStringLiteral("color: #e8a33d; font-weight: bold;"));
         auto *box = new QVBoxLayout;
         box->setSpacing(4);
-        box->addWidget(caption);
+        box->addWidget(theme::label("caption", group.caption));
         box->addWidget(grid, 1);
         grids->addLayout(box, place / 2, place % 2);
         ++place;

@@ -1,15 +1,14 @@
 #pragma once
 
+#include "common/rowsmodel.h"
 #include "transfers/market.h"
 
 #include <QTableView>
 
 #include <functional>
-
 #include <vector>
 
 class QGridLayout;
-class RowsModel;
 
 namespace ui {
 
@@ -23,10 +22,10 @@ class PlayerGrid : public QTableView
 public:
     enum class Column { Nombre, Apellidos, Edad, Posicion, Media, Dorsal, Nacionalidad, Years };
 
-    PlayerGrid(const char *name, std::vector<Column> shown, QWidget *parent = nullptr);
+    PlayerGrid(const char *name, const std::vector<Column> &shown, QWidget *parent = nullptr);
 
     // One row a player, in the order given.
-    void setPlayers(const std::vector<game::Market::Line> &players);
+    void setPlayers(std::vector<game::Market::Line> players);
     // The number of the player on that row, or 0.
     int playerAt(int row) const;
 
@@ -34,8 +33,7 @@ signals:
     void playerPicked(int player);
 
 private:
-    std::vector<Column> m_columns;
-    RowsModel *m_rows;
+    RowsModel<game::Market::Line> *m_rows;
 };
 
 // The four position groups of a screen of players (goalkeepers, wings, backs, centres), each

@@ -1,16 +1,16 @@
 #pragma once
 
+#include "common/page.h"
 #include "context.h"
 #include "playergrid.h"
 
-#include <QWidget>
 
 namespace ui {
 
 // "Fichar_EnVenta": everybody on the market, in four grids by position group (goalkeepers,
 // wings, backs, centres). The way into the market: from here the player goes on to the
 // clubs of every country, to the scout's search, or to an offer for a listed player.
-class SaleScreen : public QWidget
+class SaleScreen : public Page
 {
     Q_OBJECT
 
@@ -22,7 +22,6 @@ signals:
     void playerPicked(int player);
     void offersRequested();
     void scoutRequested();
-    void closeRequested();
 };
 
 } // namespace ui

@@ -1,7 +1,6 @@
 #include "scoutscreen.h"
 
 #include "league/leagueclubs.h"
-#include "common/plainlabel.h"
 #include "common/theme.h"
 #include "playergrid.h"
 #include "transfers/market.h"
@@ -49,13 +48,11 @@ QLineEdit *numberBox(const char *name)
 
 } // namespace
 
-ScoutScreen::ScoutScreen(game::Context context, QWidget *parent) : QWidget(parent), m_context(context)
+ScoutScreen::ScoutScreen(game::Context context, QWidget *parent)
+    : Page("Secretario", tr("SECRETARIO TÉCNICO"), tr("SECRETARIO TÉCNICO"), {Back::Side::Left}, parent),
+      m_context(context)
 {
-    setObjectName(QStringLiteral("Secretario"));
-    setWindowTitle(tr("SECRETARIO TÉCNICO"));
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral("QWidget#Secretario { background-color: #0f1e3c; }"));
-
+    setFrame(28, 16, 10);
     using Column = PlayerGrid::Column;
     m_players = new PlayerGrid("DGJugadores", {Column::Nombre, Column::Apellidos, Column::Edad, Column::Posicion,
                                                Column::Media, Column::Dorsal, Column::Nacionalidad});
@@ -63,8 +60,7 @@ ScoutScreen::ScoutScreen(game::Context context, QWidget *parent) : QWidget(paren
     // Before a search the secretary lists everybody, by first name.
     m_players->setPlayers(game::Market(m_context).everybody());
 
-    auto *hint = plainLabel(tr("Pulsa sobre un jugador para hacer una oferta por él."));
-    hint->setProperty("role", QStringLiteral("hint"));
+    auto *hint = theme::label("hint", tr("Pulsa sobre un jugador para hacer una oferta por él."));
     auto *right = new QVBoxLayout;
     right->addWidget(m_players, 1);
     right->addWidget(hint);
@@ -73,19 +69,7 @@ ScoutScreen::ScoutScreen(game::Context context, QWidget *parent) : QWidget(paren
     body->setSpacing(20);
     body->addWidget(buildCriteria(), 0);
     body->addLayout(right, 1);
-
-    auto *back = theme::backButton();
-    connect(back, &QPushButton::clicked, this, &ScoutScreen::closeRequested);
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(back);
-    buttons->addStretch();
-
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(28, 16, 28, 16);
-    layout->setSpacing(10);
-    layout->addWidget(theme::heading(tr("SECRETARIO TÉCNICO")));
-    layout->addLayout(body, 1);
-    layout->addLayout(buttons);
+    addLayout(body, 1);
 }
 
 QWidget *ScoutScreen::buildCriteria()
@@ -98,15 +82,11 @@ QWidget *ScoutScreen::buildCriteria()
     m_media = numberBox("txtMedia");
     m_edad = numberBox("txtEdad");
 
-    m_posicion = new QListWidget;
-    m_posicion->setObjectName(QStringLiteral("List1"));
+    m_posicion = theme::list("List1", "search");
     m_posicion->addItem(kAnyPosition);
     for (const char16_t *position : game::kPositions)
         m_posicion->addItem(QString::fromUtf16(position));
     m_posicion->setCurrentRow(0);
-    m_posicion->setStyleSheet(QStringLiteral("QListWidget { background: #1b2f57; color: #ffffff; border: 1px solid #3a5486; }"
-                                             "QListWidget::item { padding: 2px; }"
-                                             "QListWidget::item:selected { background: #e8a33d; color: #10203f; }"));
 
     auto *form = new QGridLayout;
     form->setHorizontalSpacing(12);
@@ -127,10 +107,9 @@ QWidget *ScoutScreen::buildCriteria()
     find->setObjectName(QStringLiteral("cmdBuscar"));
     connect(find, &QPushButton::clicked, this, &ScoutScreen::search);
 
-    auto *rules = plainLabel(tr("El nombre y los apellidos buscan por su comienzo. Una calidad o una edad "
-                                "mandan sobre la posición, y la calidad sobre la edad, salvo que se den "
-                                "nombre, apellidos, calidad y edad: entonces cuentan los cinco."));
-    rules->setProperty("role", QStringLiteral("hint"));
+    auto *rules = theme::label("hint", tr("El nombre y los apellidos buscan por su comienzo. Una calidad o una edad "
+                                          "mandan sobre la posición, y la calidad sobre la edad, salvo que se den "
+                                          "nombre, apellidos, calidad y edad: entonces cuentan los cinco."));
     rules->setWordWrap(true);
 
     auto *layout = new QVBoxLayout(box);

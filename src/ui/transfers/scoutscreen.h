@@ -1,8 +1,8 @@
 #pragma once
 
+#include "common/page.h"
 #include "context.h"
 
-#include <QWidget>
 
 class QLineEdit;
 class QListWidget;
@@ -14,7 +14,7 @@ class PlayerGrid;
 // "Secretario" (the technical secretary): a search over every player of the game, of any
 // club, the released ones and the user's own included, by name, surname, position, rating
 // and age.
-class ScoutScreen : public QWidget
+class ScoutScreen : public Page
 {
     Q_OBJECT
 
@@ -24,7 +24,6 @@ public:
 signals:
     // A row was picked: an offer for that player.
     void playerPicked(int player);
-    void closeRequested();
 
 private:
     QWidget *buildCriteria();

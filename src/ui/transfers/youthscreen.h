@@ -1,8 +1,8 @@
 #pragma once
 
+#include "common/page.h"
 #include "context.h"
 
-#include <QWidget>
 
 class QListWidget;
 
@@ -13,7 +13,7 @@ class PlayerGrid;
 // "Búsqueda de Jóvenes Promesas": the young players of the youth pool, one position at a
 // time. The grid stays empty until "BUSCAR PROMESA" is pressed; a youth picked leads to an
 // offer as for a listed player, from the clause and wage he asks.
-class YouthScreen : public QWidget
+class YouthScreen : public Page
 {
     Q_OBJECT
 
@@ -25,7 +25,6 @@ public:
 
 signals:
     void playerPicked(int player);
-    void closeRequested();
 
 private:
     game::Context m_context;
