@@ -6,6 +6,7 @@ set -euo pipefail
 packages=(
     build-essential cmake
     qt6-base-dev qt6-base-dev-tools libgl-dev
+    qt6-charts-dev libqt6opengl6-dev
     libsqlite3-dev libsqlitecpp-dev
     libgtest-dev
     fonts-dejavu-core

@@ -59,11 +59,10 @@ void Navigator::setSaves(const game::Saves *saves)
 bool Navigator::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == &m_window && event->type() == QEvent::Close && !m_quitting) {
-        if (mayLeave()) {
-            quitGame();
-        } else {
+        if (mayLeave())
+            endGame();
+        else
             event->ignore();
-        }
         return true;
     }
     return QObject::eventFilter(watched, event);
@@ -251,8 +250,12 @@ void Navigator::leaveCareer()
 void Navigator::quitGame()
 {
     // Leaving the game (the career saved first): the working file goes back to the original.
-    if (m_quitting || !mayLeave())
-        return;
+    if (!m_quitting && mayLeave())
+        endGame();
+}
+
+void Navigator::endGame()
+{
     m_quitting = true;
     if (game::Result restored = m_career.leave(); !restored)
         m_context.dialogs.tell(restored.message(), game::Dialogs::Icon::Exclamation);

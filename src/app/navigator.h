@@ -122,6 +122,8 @@ private:
     // Closes what a week leaves open before the next one opens.
     void closeWeekScreens();
     void showTopPage();
+    // The game ends: the working file goes back to the original.
+    void endGame();
     // Brings up the screen for where the career stands.
     void showCareer();
 

@@ -3,7 +3,9 @@
 
 #include "navigator.h"
 
+#include "career/historyscreen.h"
 #include "career/infopage.h"
+#include "career/loadscreen.h"
 #include "career/mainmenu.h"
 #include "career/newcareerscreen.h"
 #include "career/preseasonscreen.h"
@@ -91,6 +93,9 @@ void registerScreens(Navigator &nav)
                      return [&navigator, name] { navigator.open(QString::fromLatin1(name)); };
                  };
                  QObject::connect(menu, &ui::MainMenu::newCareerRequested, &navigator, opens("Liga_Manager"));
+                 QObject::connect(menu, &ui::MainMenu::continueRequested, &navigator,
+                                  [&navigator] { navigator.continueCareer(); });
+                 QObject::connect(menu, &ui::MainMenu::loadRequested, &navigator, opens("Cargar"));
                  QObject::connect(menu, &ui::MainMenu::addYouthRequested, &navigator, opens("Agregar_Juveniles"));
                  QObject::connect(menu, &ui::MainMenu::historyRequested, &navigator, opens("Historia"));
                  QObject::connect(menu, &ui::MainMenu::informationRequested, &navigator, opens("infoHandball"));
@@ -354,6 +359,27 @@ void registerScreens(Navigator &nav)
              [](Navigator &navigator) {
                  return closing(navigator, new ui::StandingsScreen(navigator.context()),
                                 QStringLiteral("Clasificacion"));
+             },
+             {}});
+
+    // The career's history: its seasons, its scorers, its place and budget season by season.
+    nav.add(QStringLiteral("Historial"),
+            {Mode::Page, false, false,
+             [](Navigator &navigator) {
+                 return closing(navigator, new ui::HistoryScreen(navigator.context()), QStringLiteral("Historial"));
+             },
+             {}});
+
+    // The careers kept, from the menu; the one chosen is taken up where it stood.
+    nav.add(QStringLiteral("Cargar"),
+            {Mode::Page, false, false,
+             [](Navigator &navigator) -> QWidget * {
+                 if (!navigator.saves())
+                     return nullptr;
+                 auto *load = new ui::LoadScreen(navigator.context(), *navigator.saves());
+                 QObject::connect(load, &ui::LoadScreen::loadRequested, &navigator,
+                                  [&navigator](const QString &path) { navigator.continueCareer(path); });
+                 return closing(navigator, load, QStringLiteral("Cargar"));
              },
              {}});
 

@@ -325,6 +325,17 @@ void addGoals(GameStore &store, int season, int player, int goals)
                   season, player, goals);
 }
 
+std::vector<Scorer> scorers(GameStore &store, int season)
+{
+    std::vector<Scorer> list;
+    GameStore::Query rows = store.query("select idjugador, Nombre || ' ' || Apellidos, goles from goleadores"
+                                        " where temporada = ? and goles > 0 order by goles desc, idjugador",
+                                        season);
+    while (rows.next())
+        list.push_back({rows.integer(0), rows.text(1), rows.integer(2)});
+    return list;
+}
+
 qint64 budgetOf(GameStore &store, int club)
 {
     return store.integer("select presupuesto from infoteams where idequipo = ?", club);

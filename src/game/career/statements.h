@@ -125,6 +125,14 @@ std::optional<std::pair<QString, qint64>> dearestMove(GameStore &store, int seas
 qint64 budgetOf(GameStore &store, int club);
 // Adds a player's goals of one match to his season's tally.
 void addGoals(GameStore &store, int season, int player, int goals);
+// A season's scorers of the user's club, the most goals first (by id among equals).
+struct Scorer
+{
+    int player = 0;
+    QString name;
+    int goals = 0;
+};
+std::vector<Scorer> scorers(GameStore &store, int season);
 
 } // namespace sql::career
 

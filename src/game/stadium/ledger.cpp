@@ -81,6 +81,13 @@ qint64 Ledger::budget(int club)
     return sql::stadium::budget(m_store, club);
 }
 
+std::vector<Ledger::Row> Ledger::season()
+{
+    std::vector<Row> rows;
+    m_store.attempt([&] { rows = sql::stadium::ledgerRows(m_store); });
+    return rows;
+}
+
 Ledger::Sheet Ledger::sheet(int week)
 {
     Sheet sheet;

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <optional>
+#include <vector>
 
 namespace game {
 
@@ -78,6 +79,9 @@ public:
         qint64 seasonCash = 0;
     };
     Sheet sheet(int week);
+    // The season so far, a row a week, for the ledger's chart; empty when the store cannot be
+    // read.
+    std::vector<Row> season();
     // The season's sums of every column but the week and the balance.
     Row seasonTotals();
     // The balance of the earliest week on file, what the season view shows as its cash.

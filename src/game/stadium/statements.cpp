@@ -144,6 +144,15 @@ std::optional<Ledger::Row> ledgerRow(GameStore &store, int week)
     return ledgerRowAt(query);
 }
 
+std::vector<Ledger::Row> ledgerRows(GameStore &store)
+{
+    std::vector<Ledger::Row> rows;
+    GameStore::Query query = store.query("select * from caja order by semana");
+    while (query.next())
+        rows.push_back(ledgerRowAt(query));
+    return rows;
+}
+
 Ledger::Row ledgerTotals(GameStore &store)
 {
     GameStore::Query query = store.query(

@@ -40,6 +40,8 @@ void post(GameStore &store, int week, Posting posting, qint64 amount);
 void postGateAndBoards(GameStore &store, int week, qint64 gate, qint64 boards);
 
 std::optional<Ledger::Row> ledgerRow(GameStore &store, int week);
+// Every row of the season's ledger, week by week.
+std::vector<Ledger::Row> ledgerRows(GameStore &store);
 // The sums of every column of the season but the week and the balance.
 Ledger::Row ledgerTotals(GameStore &store);
 // The balance of the earliest week on file.

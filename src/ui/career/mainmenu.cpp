@@ -18,8 +18,12 @@ MainMenu::MainMenu(QWidget *parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("Form1"));
     using artwork::MenuIcon;
+    addButton("cmdContinuar", int(MenuIcon::Continue), tr("CONTINUAR: sigue tu última carrera donde la dejaste"),
+              &MainMenu::continueRequested);
     addButton("Command4", int(MenuIcon::NewCareer), tr("Nueva carrera: elige tu nombre y tu equipo de la Liga ASOBAL"),
               &MainMenu::newCareerRequested);
+    addButton("cmdCargar", int(MenuIcon::Load), tr("CARGAR: elige una de tus carreras guardadas"),
+              &MainMenu::loadRequested);
     addButton("Command2", int(MenuIcon::AddYouth), tr("Añadir un jugador juvenil a la cantera"),
               &MainMenu::addYouthRequested);
     addButton("Command1", int(MenuIcon::History), tr("Historia del balonmano (en Internet)"),
@@ -48,7 +52,7 @@ QToolButton *MainMenu::addButton(const char *name, int icon, const QString &tip,
 
 void MainMenu::resizeEvent(QResizeEvent *)
 {
-    // The six buttons stand in one row across the lower part of the picture.
+    // The buttons stand in one row across the lower part of the picture.
     const int rowWidth = int(m_buttons.size()) * kButtonSize + int(m_buttons.size() - 1) * kButtonGap;
     int x = (width() - rowWidth) / 2;
     const int y = height() - kButtonSize - height() / 8;

@@ -6,7 +6,8 @@ class QToolButton;
 
 namespace ui {
 
-// The main menu: a picture with six picture buttons that carry no captions, only tooltips.
+// The main menu: a picture with eight picture buttons that carry no captions, only tooltips
+// naming what each does.
 class MainMenu : public QWidget
 {
     Q_OBJECT
@@ -16,6 +17,9 @@ public:
 
 signals:
     void newCareerRequested();
+    // "CONTINUAR": the latest career, where it stood; "CARGAR": the list of careers kept.
+    void continueRequested();
+    void loadRequested();
     void addYouthRequested();
     void historyRequested();
     void informationRequested();

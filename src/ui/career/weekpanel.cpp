@@ -69,7 +69,8 @@ WeekPanel::WeekPanel(game::Career &career, const ScreenExists &exists, QWidget *
                       addButton("cmdPlantilla", tr("PLANTILLA"), QStringLiteral("Plantilla"))});
     fill(seguimiento, {addButton("c", tr("CALENDARIO"), QStringLiteral("Calendario")),
                        addButton("cmdClasificacion", tr("CLASIFICACIÓN"), QStringLiteral("Clasificacion")),
-                       addButton("cmdResultados", tr("RESULTADOS"), QStringLiteral("Resultados"))});
+                       addButton("cmdResultados", tr("RESULTADOS"), QStringLiteral("Resultados")),
+                       addButton("cmdHistorial", tr("HISTORIAL"), QStringLiteral("Historial"))});
     fill(finanzas, {addButton("cmdCaja", tr("CAJA"), QStringLiteral("Caja")),
                     addButton("cmdEstadio", tr("ESTADIO"), QStringLiteral("estadios"))});
     fill(mercado, {addButton("cmdfichar", tr("FICHAR"), QStringLiteral("Fichar_EnVenta"))});

@@ -46,6 +46,8 @@ enum class MenuIcon {
     Information,   // an "i" in a circle
     Instructions,  // a question mark / open manual
     Quit,          // an open door
+    Continue,      // a ball rolling on along its track: the latest career, where it stood
+    Load,          // a stack of saved cards: the careers kept
 };
 
 // The picture on a menu button, drawn for the given size (the buttons carry no caption).

@@ -213,6 +213,37 @@ void quit(QPainter &p, const Ink &ink)
     p.drawPolygon(QPolygonF({QPointF(94, 50), QPointF(78, 38), QPointF(78, 62)}));
 }
 
+// A round "play" mark running on, with the lines of its way behind it: the career goes on.
+void continueCareer(QPainter &p, const Ink &ink)
+{
+    p.setPen(pen(ink.line));
+    for (const qreal y : {36.0, 52.0, 68.0})
+        p.drawLine(QPointF(4, y), QPointF(y == 52.0 ? 26 : 18, y));
+    p.setBrush(ink.fill);
+    p.drawEllipse(QPointF(64, 52), 32, 32);
+    p.setPen(pen(ink.accent, 4));
+    p.setBrush(ink.accent);
+    p.drawPolygon(QPolygonF({QPointF(54, 34), QPointF(84, 52), QPointF(54, 70)}));
+}
+
+// A stack of cards with the top one pulled up: one of the careers kept.
+void load(QPainter &p, const Ink &ink)
+{
+    p.setPen(pen(ink.line));
+    p.setBrush(ink.fill);
+    for (int card = 2; card >= 0; --card)
+        p.drawRoundedRect(QRectF(14 + card * 6, 34 + card * 10, 62, 42), 5, 5);
+    p.setBrush(Qt::NoBrush);
+    p.drawLine(QPointF(22, 48), QPointF(60, 48));
+    p.drawLine(QPointF(22, 60), QPointF(48, 60));
+    // The card comes up out of the stack.
+    p.setPen(pen(ink.accent, 8));
+    p.drawLine(QPointF(84, 70), QPointF(84, 26));
+    p.setBrush(ink.accent);
+    p.setPen(pen(ink.accent, 4));
+    p.drawPolygon(QPolygonF({QPointF(84, 12), QPointF(72, 28), QPointF(96, 28)}));
+}
+
 void paintIcon(QPainter &p, MenuIcon icon, const Ink &ink)
 {
     switch (icon) {
@@ -222,6 +253,8 @@ void paintIcon(QPainter &p, MenuIcon icon, const Ink &ink)
     case MenuIcon::Information: information(p, ink); break;
     case MenuIcon::Instructions: instructions(p, ink); break;
     case MenuIcon::Quit: quit(p, ink); break;
+    case MenuIcon::Continue: continueCareer(p, ink); break;
+    case MenuIcon::Load: load(p, ink); break;
     }
 }
 

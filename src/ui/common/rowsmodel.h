@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QPixmap>
 #include <QString>
 
 #include <utility>
@@ -29,6 +30,12 @@ public:
     {
     }
 
+    // A picture before a column's text, such as a club's crest.
+    void setDecoration(int column, QPixmap (*picture)(const Row &row))
+    {
+        m_decorations.emplace_back(column, picture);
+    }
+
     void setRows(std::vector<Row> rows)
     {
         beginResetModel();
@@ -46,6 +53,13 @@ public:
     // A cell's text, and the same text under the pointer: a cell cut short still shows it whole.
     QVariant data(const QModelIndex &index, int role) const override
     {
+        if (index.isValid() && role == Qt::DecorationRole) {
+            for (const auto &[column, picture] : m_decorations) {
+                if (column == index.column())
+                    return picture(m_rows.at(std::size_t(index.row())));
+            }
+            return {};
+        }
         if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
             return {};
         return m_columns.at(std::size_t(index.column())).cell(m_rows.at(std::size_t(index.row())));
@@ -62,5 +76,6 @@ public:
 
 private:
     std::vector<Column> m_columns;
+    std::vector<std::pair<int, QPixmap (*)(const Row &)>> m_decorations;
     std::vector<Row> m_rows;
 };

@@ -1,0 +1,228 @@
+#include "career/saves.h"
+#include "career/weekpanel.h"
+#include "screenfixture.h"
+#include "sim/autoseason.h"
+
+#include <QAbstractButton>
+#include <QChartView>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QSignalSpy>
+#include <QXYSeries>
+#include <QTableView>
+
+// The window with careers kept in a folder of the test's own.
+class SavedScreens : public ScreenTest
+{
+protected:
+    void SetUp() override
+    {
+        ScreenTest::SetUp();
+        m_saves = std::make_unique<game::Saves>(m_folder.filePath(QStringLiteral("carreras")));
+        m_navigator->setSaves(m_saves.get());
+    }
+
+    // A new career of Barcelona in the window, planned without friendlies, at its first week
+    // with the week's events run.
+    void reachFirstWeek()
+    {
+        startCareerFromMenu(QStringLiteral("IBarcelona"));
+        for (int slot = 0; slot < 5; ++slot)
+            click(QStringLiteral("cmdNoJugar"));
+        click(QStringLiteral("cmdSeguir"));
+        panel()->runWeekEvents();
+        settle();
+        if (m_navigator->screen(QStringLiteral("Tele")))
+            click(QStringLiteral("cmdOK"));
+    }
+
+    ui::WeekPanel *panel() { return m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager")); }
+    QString shown() const { return m_navigator->current() ? m_navigator->current()->objectName() : QString(); }
+
+    // Closes the main window by its frame, as the window manager does.
+    bool closeWindow()
+    {
+        QCloseEvent close;
+        QApplication::sendEvent(m_window.get(), &close);
+        settle();
+        return close.isAccepted();
+    }
+
+    std::unique_ptr<game::Saves> m_saves;
+};
+
+// Guards: a way out of a career that throws it away without a word, or asks and still leaves
+// when the player says No, or leaves without saving it.
+TEST_F(SavedScreens, everyWayOutOfACareerAsksAndKeepsTheCareer)
+{
+    const QString question = QStringLiteral("Salir|¿Salir de la partida? La carrera queda guardada y podrás continuarla "
+                                            "desde el menú.");
+    struct Way
+    {
+        const char *name;
+        std::function<void()> leave;
+        const char *screenAfterYes;
+    };
+    const Way ways[] = {
+        {"panel", [this] { click(QStringLiteral("Command4")); }, "Form1"},
+        {"menu",
+         [this] {
+             goToMenu();
+             click(QStringLiteral("Image3"));
+         },
+         nullptr},
+        {"window", [this] { closeWindow(); }, nullptr},
+    };
+    for (const Way &way : ways) {
+        reachFirstWeek();
+        const qint64 week = m_store->integer("select jornada from datos_jugador");
+        m_dialogs.clear();
+        m_dialogs.answer({false});
+        way.leave();
+        EXPECT_EQ(m_dialogs.questions(), QStringList{question}) << way.name;
+        EXPECT_TRUE(m_navigator->career().inProgress()) << way.name;
+        EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), week) << way.name;
+
+        QSignalSpy finished(m_navigator.get(), &app::Navigator::finished);
+        m_dialogs.clear();
+        m_dialogs.answer({true});
+        way.leave();
+        EXPECT_EQ(m_dialogs.questions(), QStringList{question}) << way.name;
+        EXPECT_FALSE(m_navigator->career().inProgress()) << way.name;
+        ASSERT_TRUE(m_saves->latest().has_value()) << way.name;
+        EXPECT_EQ(m_saves->latest()->week, week) << way.name;
+        EXPECT_EQ(fileBytes(workingPath()), fileBytes(pristinePath())) << way.name;
+        if (way.screenAfterYes)
+            EXPECT_EQ(shown(), QLatin1String(way.screenAfterYes)) << way.name;
+        else
+            EXPECT_EQ(finished.count(), 1) << way.name;
+        m_navigator.reset();
+        m_navigator = std::make_unique<app::Navigator>(*m_context, *m_window);
+        m_navigator->setSaves(m_saves.get());
+    }
+    // Without a career nothing is asked.
+    m_dialogs.clear();
+    EXPECT_TRUE(m_navigator->mayLeave());
+    EXPECT_TRUE(m_dialogs.questions().isEmpty());
+}
+
+// Guards: "CONTINUAR" that opens a new week (wages charged twice, a second ledger row), runs
+// the week's events again, or brings back another career than the last one played.
+TEST_F(SavedScreens, continuarTakesUpTheLastCareerAtTheSameWeek)
+{
+    goToMenu();
+    screenshot(QStringLiteral("menu_continue"));
+    m_dialogs.clear();
+    click(QStringLiteral("cmdContinuar")); // nothing saved yet
+    EXPECT_TRUE(m_dialogs.texts().value(0).contains(QStringLiteral("No hay ninguna carrera guardada")));
+
+    reachFirstWeek();
+    const QString ledger = dump("caja");
+    const qint64 budget = m_store->integer("select presupuesto from infoteams where idequipo = 1");
+    m_dialogs.answer({true});
+    click(QStringLiteral("Command4"));
+    ASSERT_EQ(shown(), QStringLiteral("Form1"));
+
+    m_dialogs.clear();
+    click(QStringLiteral("cmdContinuar"));
+    ASSERT_EQ(shown(), QStringLiteral("Panel_Control_Manager"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("1"));
+    EXPECT_EQ(dump("caja"), ledger);
+    EXPECT_EQ(m_store->integer("select presupuesto from infoteams where idequipo = 1"), budget);
+    panel()->runWeekEvents();
+    settle();
+    EXPECT_TRUE(m_dialogs.texts().isEmpty()); // the week's events ran before it was saved
+    EXPECT_EQ(m_navigator->window().windowTitle().contains(QStringLiteral("Chema Ruiz")), true);
+}
+
+// Guards: a load list that shows what the saves do not say, deletes without asking or deletes
+// when the player says No, or loads another career than the one chosen.
+TEST_F(SavedScreens, theLoadListShowsEachCareerAndDeletesOnlyWhenAsked)
+{
+    for (const char *crest : {"IBarcelona", "IValencia"}) {
+        startCareerFromMenu(QString::fromLatin1(crest));
+        m_dialogs.answer({true});
+        click(QStringLiteral("cmdVOLVER")); // the planner back to the menu: the career stays
+        goToMenu();
+        click(QStringLiteral("Image3"));
+        m_navigator.reset();
+        m_navigator = std::make_unique<app::Navigator>(*m_context, *m_window);
+        m_navigator->setSaves(m_saves.get());
+    }
+    goToMenu();
+    click(QStringLiteral("cmdCargar"));
+    ASSERT_EQ(shown(), QStringLiteral("Cargar"));
+    auto *list = find<QTableView>(QStringLiteral("DGPartidas"));
+    ASSERT_NE(list, nullptr);
+    ASSERT_EQ(list->model()->rowCount(), 2);
+    // The latest first, with its crest, manager, club, season, week, date and budget.
+    EXPECT_EQ(cell(list, 0, 0), QStringLiteral("BM VALENCIA"));
+    EXPECT_FALSE(list->model()->index(0, 0).data(Qt::DecorationRole).value<QPixmap>().isNull());
+    EXPECT_EQ(cell(list, 0, 1), QStringLiteral("Chema Ruiz"));
+    EXPECT_EQ(cell(list, 0, 2), QStringLiteral("2004-2005"));
+    EXPECT_EQ(cell(list, 0, 3), QStringLiteral("Pretemporada"));
+    EXPECT_TRUE(cell(list, 0, 5).endsWith(QStringLiteral(" €")));
+    screenshot(QStringLiteral("load"));
+
+    list->selectRow(1);
+    m_dialogs.answer({false});
+    click(QStringLiteral("cmdBorrar"));
+    EXPECT_EQ(list->model()->rowCount(), 2);
+    m_dialogs.answer({true});
+    click(QStringLiteral("cmdBorrar"));
+    ASSERT_EQ(list->model()->rowCount(), 1);
+    EXPECT_EQ(m_saves->list().size(), 1u);
+
+    click(QStringLiteral("cmdCargar"));
+    ASSERT_EQ(shown(), QStringLiteral("Pretemporada"));
+    EXPECT_EQ(find<QLabel>(QStringLiteral("lblEquipo"))->text(), QStringLiteral("BM VALENCIA"));
+}
+
+// Guards: a history screen that loses a season, counts the place upside down, or draws no
+// chart; the season's years that stand still in the dates the player reads.
+TEST_F(SavedScreens, theHistoryTellsThreeSeasonsInATableAndTwoCharts)
+{
+    m_random = ScriptedRandom(17);
+    std::vector<game::AutoSeason::SeasonSummary> summaries;
+    {
+        game::AutoSeason season(*m_context, {5, 2, game::AutoSeason::Policy::Busy});
+        ASSERT_TRUE(season.begin());
+        for (int played = 0; played < 3; ++played) {
+            while (season.playWeek()) {
+            }
+            game::AutoSeason::SeasonSummary summary;
+            ASSERT_TRUE(season.closeSeason(&summary)) << season.failure().toStdString();
+            summaries.push_back(summary);
+        }
+        ASSERT_TRUE(season.playWeek()); // the fourth season's first week played, its goals counted
+    }
+    ASSERT_TRUE(m_navigator->career().resume());
+    m_navigator->showPanel();
+    settle();
+    // The fourth season's dates fall three years on.
+    EXPECT_TRUE(find<QLabel>(QStringLiteral("lblFecha"))->text().endsWith(QStringLiteral("2007")));
+
+    click(QStringLiteral("cmdHistorial"));
+    ASSERT_EQ(shown(), QStringLiteral("Historial"));
+    auto *seasons = find<QTableView>(QStringLiteral("DGTemporadas"));
+    ASSERT_NE(seasons, nullptr);
+    ASSERT_EQ(seasons->model()->rowCount(), 3);
+    for (int row = 0; row < 3; ++row) {
+        EXPECT_EQ(cell(seasons, row, 0), QStringLiteral("%1-%2").arg(2004 + row).arg(2005 + row));
+        EXPECT_EQ(cell(seasons, row, 1), summaries[std::size_t(row)].champion);
+        EXPECT_EQ(cell(seasons, row, 2).toInt(), summaries[std::size_t(row)].place);
+    }
+    auto *scorers = find<QTableView>(QStringLiteral("DGGoleadores"));
+    ASSERT_NE(scorers, nullptr);
+    EXPECT_GT(scorers->model()->rowCount(), 0); // the season under way
+    auto *picker = find<QComboBox>(QStringLiteral("cboTemporada"));
+    picker->setCurrentIndex(picker->count() - 1); // 2004-2005
+    EXPECT_EQ(cell(scorers, 0, 0), cell(seasons, 0, 10).section(QStringLiteral(" ("), 0, 0));
+    for (const char *chart : {"chartPuestos", "chartPresupuesto"}) {
+        auto *view = find<QChartView>(QString::fromLatin1(chart));
+        ASSERT_NE(view, nullptr) << chart;
+        ASSERT_FALSE(view->chart()->series().isEmpty()) << chart;
+        EXPECT_EQ(qobject_cast<QXYSeries *>(view->chart()->series().front())->count(), 3) << chart;
+    }
+    screenshot(QStringLiteral("history"));
+}
