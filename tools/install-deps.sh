@@ -7,6 +7,7 @@ packages=(
     build-essential cmake
     qt6-base-dev qt6-base-dev-tools libgl-dev
     qt6-charts-dev libqt6opengl6-dev
+    qt6-translations-l10n
     libsqlite3-dev libsqlitecpp-dev
     libgtest-dev
     fonts-dejavu-core

@@ -2,6 +2,7 @@
 
 #include "common/messageboxdialogs.h"
 #include "common/theme.h"
+#include "common/translations.h"
 #include "navigator.h"
 #include "career/session.h"
 
@@ -64,6 +65,7 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("zarpazo"));
     QApplication::setApplicationDisplayName(QStringLiteral("Zarpazo"));
     theme::apply(app);
+    ui::installSpanish(app);
 
     // The working file and the careers' saves live in the player's data folder, which one
     // copy of the game holds at a time.

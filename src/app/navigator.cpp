@@ -167,9 +167,11 @@ void Navigator::showTopPage()
     if (m_pages.isEmpty())
         return;
     QWidget *page = m_loaded.value(m_pages.constLast());
-    if (!page || m_stack->currentWidget() == page)
+    if (!page)
         return;
     m_stack->setCurrentWidget(page);
+    // Also when the stack already shows it (it falls back on a page by itself as another goes):
+    // the window is titled after the page in front.
     m_window.setWindowTitle(page->windowTitle().isEmpty() ? QStringLiteral("Zarpazo") : page->windowTitle());
 }
 
