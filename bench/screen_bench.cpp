@@ -97,7 +97,7 @@ struct Career
         window.resize(1280, 720);
         window.show();
         navigator = std::make_unique<app::Navigator>(*context, window);
-        navigator->setUrlOpener([](const QUrl &) {});
+        navigator->setUrlOpener([](const QUrl &) { return true; });
         // The window takes up the career the headless manager left at its planner.
         if (!navigator->career().resume()) {
             std::fprintf(stderr, "the career could not be taken up\n");

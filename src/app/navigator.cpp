@@ -26,7 +26,7 @@ const QString kBroadcast = QStringLiteral("Tele");
 
 Navigator::Navigator(game::Context context, QMainWindow &window)
     : m_context(context), m_window(window), m_stack(new QStackedWidget(&window)),
-      m_openUrl([](const QUrl &url) { QDesktopServices::openUrl(url); }), m_career(context)
+      m_openUrl([](const QUrl &url) { return QDesktopServices::openUrl(url); }), m_career(context)
 {
     m_window.setCentralWidget(m_stack);
     registerScreens(*this);

@@ -87,9 +87,10 @@ public:
     const game::Saves *saves() const { return m_saves; }
     QMainWindow &window() const { return m_window; }
 
-    // How a web page is opened; the system's browser unless a test says otherwise.
-    void setUrlOpener(std::function<void(const QUrl &)> opener) { m_openUrl = std::move(opener); }
-    void openUrl(const QUrl &url) const { m_openUrl(url); }
+    // How a web page is opened; the system's browser unless a test says otherwise. True when
+    // it opened.
+    void setUrlOpener(std::function<bool(const QUrl &)> opener) { m_openUrl = std::move(opener); }
+    bool openUrl(const QUrl &url) const { return m_openUrl(url); }
 
     // The way of a career: the title, the menu, the panel of the open week, the match, the
     // end of the match, the verdict read, a step taken up again, leaving the career, leaving
@@ -130,7 +131,7 @@ private:
     game::Context m_context;
     QMainWindow &m_window;
     QStackedWidget *m_stack;
-    std::function<void(const QUrl &)> m_openUrl;
+    std::function<bool(const QUrl &)> m_openUrl;
     game::Career m_career;
     const game::Saves *m_saves = nullptr;
     bool m_quitting = false;

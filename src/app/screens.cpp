@@ -63,7 +63,7 @@ ScreenKind webPage(ui::InfoPage::Kind kind, const QString &name, const QUrl &add
             [kind, name](Navigator &navigator) { return dismissible(navigator, new ui::InfoPage(kind), name); },
             [address](Navigator &navigator, QWidget *page) {
                 navigator.context().dialogs.tell(QObject::tr("Es Necesario Tener Conexion a Intetnet"));
-                navigator.openUrl(address);
+                static_cast<ui::InfoPage *>(page)->showOpened(navigator.openUrl(address));
                 page->resize(720, 420);
             }};
 }

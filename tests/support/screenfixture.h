@@ -31,7 +31,10 @@ protected:
         m_window = std::make_unique<QMainWindow>();
         m_window->resize(1280, 720);
         m_navigator = std::make_unique<app::Navigator>(*m_context, *m_window);
-        m_navigator->setUrlOpener([this](const QUrl &url) { m_opened << url; });
+        m_navigator->setUrlOpener([this](const QUrl &url) {
+            m_opened << url;
+            return m_browserOpens;
+        });
         m_window->show();
     }
 
@@ -192,5 +195,6 @@ protected:
     std::unique_ptr<QMainWindow> m_window;
     std::unique_ptr<app::Navigator> m_navigator;
     QList<QUrl> m_opened;
+    bool m_browserOpens = true;
 };
 

@@ -2,6 +2,7 @@
 #include "screenfixture.h"
 
 #include <QMessageBox>
+#include <QTextBrowser>
 
 // The game's window as the player meets it around the screens.
 class GameWindow : public ScreenTest
@@ -39,5 +40,22 @@ TEST_F(GameWindow, theTitleFollowsThePageInFront)
         EXPECT_NE(m_window->windowTitle(), panelTitle) << button;
         click(QStringLiteral("cmdVOLVER"));
         EXPECT_EQ(m_window->windowTitle(), panelTitle) << button;
+    }
+}
+
+// Guards: a web page that says it opened in the browser when the browser could not be opened.
+TEST_F(GameWindow, aWebPageSaysWhetherTheBrowserOpenedItAndWhereItIs)
+{
+    goToMenu();
+    for (const bool opens : {true, false}) {
+        m_browserOpens = opens;
+        click(QStringLiteral("Command3"));
+        auto *page = find<QDialog>(QStringLiteral("infoHandball"));
+        ASSERT_NE(page, nullptr);
+        const QString text = page->findChild<QTextBrowser *>(QStringLiteral("pagina"))->toPlainText();
+        EXPECT_EQ(text.contains(QStringLiteral("se ha abierto en tu navegador")), opens);
+        EXPECT_EQ(text.contains(QStringLiteral("No se ha podido abrir")), !opens);
+        EXPECT_TRUE(text.contains(m_opened.constLast().toString()));
+        click(QStringLiteral("cmdVOLVER"));
     }
 }

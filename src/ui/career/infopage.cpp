@@ -47,15 +47,7 @@ InfoPage::InfoPage(Kind kind, QWidget *parent) : QDialog(parent), m_kind(kind)
         setObjectName(history ? QStringLiteral("Historia") : QStringLiteral("infoHandball"));
         setWindowTitle(history ? tr("Historia de Balonmano - Wikipedia") : tr("Balonmano - Wikipedia"));
         heading = history ? tr("HISTORIA DEL BALONMANO") : tr("INFORMACIÓN SOBRE BALONMANO");
-        const QUrl address = history ? historyPage() : handballSite();
-        // Markup on purpose: the page is the game's own text, with its own address as a link,
-        // and nothing the player typed goes into it.
-        m_page->setHtml(tr("<div style='font-family: sans-serif; margin: 24px;'>"
-                           "<h2>%1</h2>"
-                           "<p>La página se ha abierto en tu navegador de Internet.</p>"
-                           "<p>Si no aparece, puedes abrirla tú mismo en esta dirección:<br>"
-                           "<a href='%2'>%2</a></p></div>")
-                            .arg(windowTitle(), address.toString()));
+        showOpened(true);
         break;
     }
     }
@@ -72,6 +64,22 @@ InfoPage::InfoPage(Kind kind, QWidget *parent) : QDialog(parent), m_kind(kind)
     layout->addWidget(theme::heading(heading));
     layout->addWidget(m_page, 1);
     layout->addLayout(buttons);
+}
+
+void InfoPage::showOpened(bool opened)
+{
+    if (m_kind == Kind::Instructions)
+        return;
+    const QUrl address = m_kind == Kind::History ? historyPage() : handballSite();
+    const QString said = opened ? tr("La página se ha abierto en tu navegador de Internet.</p>"
+                                     "<p>Si no aparece, puedes abrirla tú mismo en esta dirección:")
+                                : tr("No se ha podido abrir la página en tu navegador de Internet.</p>"
+                                     "<p>Puedes abrirla tú mismo en esta dirección:");
+    // Markup on purpose: the page is the game's own text, with its own address as a link, and
+    // nothing the player typed goes into it.
+    m_page->setHtml(QStringLiteral("<div style='font-family: sans-serif; margin: 24px;'><h2>%1</h2><p>%2<br>"
+                                   "<a href='%3'>%3</a></p></div>")
+                        .arg(windowTitle(), said, address.toString()));
 }
 
 } // namespace ui

@@ -25,6 +25,8 @@ public:
     explicit InfoPage(Kind kind, QWidget *parent = nullptr);
 
     Kind kind() const { return m_kind; }
+    // What a web page says of its opening in the browser: opened, or not, and where it is.
+    void showOpened(bool opened);
 
 private:
     Kind m_kind;
