@@ -24,6 +24,7 @@ bench: build
 	./$(BUILD)/bench/week_bench
 	./$(BUILD)/bench/match_bench
 	./$(BUILD)/bench/career_bench
+	./$(BUILD)/bench/saves_bench
 	./$(BUILD)/bench/screen_bench
 
 clean:

@@ -115,7 +115,6 @@ void Career::runEvents()
         return;
     if (!m_week.eventsRun()) {
         m_week.runEvents();
-        writeStanding();
         emit newsArrived(m_week.news());
         autosave();
     }
@@ -165,7 +164,8 @@ bool Career::finishMatch()
     m_match.reset();
     if (!written || !recorded)
         return false;
-    setStage(Stage::Played);
+    // The next week opens at once and says where the career stands.
+    m_stage = Stage::Played;
     return openWeek();
 }
 
