@@ -1,4 +1,5 @@
 #include "navigator.h"
+#include "screennames.h"
 
 #include "career/saves.h"
 #include "dialogs.h"
@@ -10,19 +11,6 @@
 #include <QStackedWidget>
 
 namespace app {
-
-namespace {
-
-// The screens the career's way passes through.
-const QString kSplash = QStringLiteral("frmSplash");
-const QString kMenu = QStringLiteral("Form1");
-const QString kPanel = QStringLiteral("Panel_Control_Manager");
-const QString kMatch = QStringLiteral("partido");
-const QString kVerdict = QStringLiteral("Finall");
-const QString kPlanner = QStringLiteral("Pretemporada");
-const QString kBroadcast = QStringLiteral("Tele");
-
-} // namespace
 
 Navigator::Navigator(game::Context context, QMainWindow &window)
     : m_context(context), m_window(window), m_stack(new QStackedWidget(&window)),
@@ -38,15 +26,15 @@ Navigator::Navigator(game::Context context, QMainWindow &window)
         closeWeekScreens();
         showPanel();
     });
-    connect(&m_career, &game::Career::broadcastOffered, this, [this] { open(kBroadcast); });
+    connect(&m_career, &game::Career::broadcastOffered, this, [this] { open(screen::Television); });
     connect(&m_career, &game::Career::verdictReady, this, [this] {
         closeWeekScreens();
-        unload(kPanel);
-        if (!open(kVerdict))
+        unload(screen::Panel);
+        if (!open(screen::Verdict))
             verdictRead();
     });
-    connect(&m_career, &game::Career::seasonClosed, this, [this] { close(kVerdict); });
-    connect(&m_career, &game::Career::planningStarted, this, [this] { open(kPlanner); });
+    connect(&m_career, &game::Career::seasonClosed, this, [this] { close(screen::Verdict); });
+    connect(&m_career, &game::Career::planningStarted, this, [this] { open(screen::Planner); });
     m_window.installEventFilter(this);
 }
 
@@ -185,12 +173,12 @@ void Navigator::closeWeekScreens()
 
 void Navigator::showSplash()
 {
-    open(kSplash);
+    open(screen::Splash);
 }
 
 void Navigator::showMenu()
 {
-    open(kMenu);
+    open(screen::Menu);
 }
 
 void Navigator::verdictRead()
@@ -208,19 +196,19 @@ void Navigator::goOn()
 void Navigator::showPanel()
 {
     // Showing the panel opens no week: it shows the one that is open.
-    open(kPanel);
+    open(screen::Panel);
 }
 
 void Navigator::playMatch()
 {
-    open(kMatch);
+    open(screen::Match);
 }
 
 void Navigator::matchOver()
 {
     // The match is recorded and the next week opens. When either failed the player has been
     // told: the match can be played again, or the panel's "SEGUIR" takes the career on.
-    close(kMatch);
+    close(screen::Match);
     if (!m_career.finishMatch())
         showPanel();
 }
@@ -290,7 +278,7 @@ void Navigator::continueCareer(const QString &path)
         return;
     }
     for (const QString &name : m_loaded.keys()) {
-        if (name != kMenu)
+        if (name != screen::Menu)
             unload(name);
     }
     showCareer();
@@ -304,11 +292,11 @@ void Navigator::showCareer()
         showMenu();
         return;
     case Stage::Planning:
-        open(kPlanner);
+        open(screen::Planner);
         return;
     case Stage::Verdict:
-        close(kMenu);
-        if (!open(kVerdict))
+        close(screen::Menu);
+        if (!open(screen::Verdict))
             verdictRead();
         return;
     case Stage::Week:
@@ -317,9 +305,9 @@ void Navigator::showCareer()
         break;
     }
     showPanel();
-    close(kMenu);
+    close(screen::Menu);
     if (m_career.week().broadcast())
-        open(kBroadcast);
+        open(screen::Television);
 }
 
 } // namespace app
