@@ -1,5 +1,7 @@
 #include "unicodelike.h"
 
+#include <algorithm>
+
 #include <sqlite3.h>
 
 namespace game {
@@ -65,11 +67,7 @@ bool matchFolded(const Text &pattern, const Text &text, char16_t escape)
 
 bool isAscii(const unsigned char *bytes, int length)
 {
-    for (int i = 0; i < length; ++i) {
-        if (bytes[i] >= 0x80)
-            return false;
-    }
-    return true;
+    return std::all_of(bytes, bytes + length, [](unsigned char byte) { return byte < 0x80; });
 }
 
 QString argumentText(sqlite3_value *value)

@@ -1,6 +1,7 @@
 #include "league/leagueclubs.h"
 #include "careerfixture.h"
 #include "match/callup.h"
+#include "match/matchday.h"
 #include "match/tactics.h"
 
 using game::CallUp;
@@ -116,5 +117,13 @@ TEST_F(CallUpTest, tacticsStoreTheCodeOfEachSystemAndTouchNoPrice)
     tactics.setDefence(9); // no such system: nothing changes
     EXPECT_EQ(tactics.defenceCode(), 4);
     EXPECT_EQ(Tactics::defencePicture(6), 0);
+    // Every system, the last included, opens the match as stored and has its own diagram.
+    const int defencePictures[] = {7, 6, 4, 2, 5};
+    for (int code = 1; code <= int(Tactics::defences().size()); ++code) {
+        tactics.setDefence(code);
+        EXPECT_EQ(game::MatchDay(*m_context).storedDefence(), Tactics::defences().at(code - 1)) << code;
+        EXPECT_EQ(Tactics::defencePicture(code), defencePictures[code - 1]) << code;
+    }
+    EXPECT_EQ(Tactics::attackPicture(1), 8);
     EXPECT_EQ(m_store->text("select group_concat(precio_entrada) from entradas where idPrecio in (1, 2)"), prices);
 }
