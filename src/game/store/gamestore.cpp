@@ -1,5 +1,6 @@
 #include "gamestore.h"
 
+#include "spanishorder.h"
 #include "unicodelike.h"
 
 #include <QDir>
@@ -132,6 +133,7 @@ Result GameStore::openConnection(bool readOnly)
         }
         connection->db.exec("PRAGMA foreign_keys=OFF");
         registerUnicodeLike(connection->db.getHandle());
+        registerSpanishOrder(connection->db.getHandle());
         m_connection = std::move(connection);
         return Result::success();
     } catch (const std::exception &e) {

@@ -241,8 +241,9 @@ std::vector<Market::Line> searchByPosition(GameStore &store, const QString &nomb
 
 std::vector<Market::Line> everybody(GameStore &store)
 {
+    // By first name as a Spanish reader orders it: Álvaro among the A, not after the Z.
     return linesOf(store.query("select idjugador, Nombre, Apellidos, Edad, Posicion, Media, Dorsal, Nacionalidad,"
-                               " \"Años_Contrato\", idequipo from jugadores order by Nombre, idjugador"));
+                               " \"Años_Contrato\", idequipo from jugadores order by Nombre collate espanol, idjugador"));
 }
 
 std::vector<Market::Line> youths(GameStore &store, const QString &posicion)
