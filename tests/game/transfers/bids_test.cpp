@@ -77,6 +77,23 @@ TEST_F(BidsTest, aSaleFromASquadOfFifteenPaysTheBidAndEmptiesHisPlace)
     EXPECT_EQ(m_dialogs.texts().last(), nombre + QStringLiteral(" Ha sido Fichado por el ") + club);
 }
 
+// Guards: a sale told with "Ha sido Fichado por el" that the store did not write, or written
+// in part (the player gone and the ledger without the sum).
+TEST_F(BidsTest, aSaleTheStoreRefusesIsNeverTold)
+{
+    keepSquadOf(15);
+    scriptBid(500000);
+    m_dialogs.answer({true});
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("create temp trigger broken before update on caja"
+                         " begin select raise(abort, 'database or disk is full'); end");
+    }).ok());
+    EXPECT_NE(Bids(*m_context).run(), Bids::Outcome::Sold);
+    EXPECT_TRUE(m_dialogs.texts().filter(QStringLiteral("Ha sido Fichado")).isEmpty());
+    EXPECT_EQ(clubOf(m_player), kClub);
+    EXPECT_EQ(game::Ledger(*m_store).row(3)->ventaJugadores, 0);
+}
+
 // Guards: a squad left with thirteen, the refusal told twice, or the question's text (the
 // names in capitals, no blank after the question mark) changed.
 TEST_F(BidsTest, fromASquadOfFourteenThePlayerRefusesOnceAndStaysListed)

@@ -37,6 +37,8 @@ protected:
     Offers::Terms askingTerms() const { return {m_clause, 2 * m_clause, m_wage, 3}; }
 
     int clubOf(int player) { return int(m_store->integer("select idequipo from jugadores where idjugador = ?", player)); }
+    QString nameOf(int player) { return m_store->text("select Nombre from jugadores where idjugador = ?", player); }
+    QString clubName(int club) { return m_store->text("select NombreEquipo from equipos where idequipo = ?", club); }
 
     int m_player = 0;
     int m_clause = 0;
@@ -146,6 +148,64 @@ TEST_F(OffersTest, eachOfferDueIsAnsweredOnItsOwnAndAnOfferOfNothingStays)
     EXPECT_EQ(m_store->integer("select count(*) from selects where oferta = 0 and jugador = ?", m_player), 1);
     EXPECT_EQ(count("selects"), 1);
 }
+
+struct Failure {
+    friend void PrintTo(const Failure &c, std::ostream *out) { *out << c.name; }
+    const char *name;
+    const char *trigger; // %1 the second player
+    bool firstSigned;    // the first signing written and told before the store is mended
+};
+
+class OfferFailure : public OffersTest, public ::testing::WithParamInterface<Failure>
+{};
+
+// Guards: a signing told with "Has Fichado a" that the store then lost or never wrote, one
+// failed answer undoing the others, or an offer whose answer failed left to wait until the
+// season's close (only offers of exactly three weeks ago were answered).
+TEST_P(OfferFailure, anAnswerIsToldOnlyOnceWrittenAndOneThatFailedIsGivenAtTheNextOpening)
+{
+    const int other = int(m_store->integer("select max(idjugador) from jugadores where idequipo = ?", kAbroad));
+    const int otherClause = int(m_store->integer("select Clausula_Recision from jugadores where idjugador = ?", other));
+    const int otherWage = int(m_store->integer("select Ficha from jugadores where idjugador = ?", other));
+    goToWeek(2);
+    Offers offers(*m_context);
+    ASSERT_TRUE(offers.make(m_player, askingTerms()));
+    ASSERT_TRUE(offers.make(other, {otherClause, otherClause, otherWage, 2}));
+    goToWeek(5);
+    ASSERT_TRUE(m_store->run([&] { m_store->execute(QString::fromUtf8(GetParam().trigger).arg(other).toStdString()); }).ok());
+
+    offers.settleDue();
+    const bool firstSigned = GetParam().firstSigned;
+    const QString first = QStringLiteral("Has Fichado a %1 del %2").arg(nameOf(m_player), clubName(kAbroad));
+    EXPECT_EQ(m_dialogs.texts().filter(QStringLiteral("Has Fichado")), firstSigned ? QStringList{first} : QStringList{});
+    EXPECT_EQ(clubOf(m_player), firstSigned ? kClub : kAbroad);
+    EXPECT_EQ(clubOf(other), kAbroad);
+    EXPECT_EQ(game::Ledger(*m_store).row(5)->fichajes, firstSigned ? m_clause : 0);
+    EXPECT_EQ(count("selects"), firstSigned ? 1 : 2);
+
+    // Mended, the next week answers what still waits, four weeks old.
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("drop trigger broken"); }).ok());
+    goToWeek(6);
+    EXPECT_EQ(offers.settleDue().signings, firstSigned ? 1 : 2);
+    EXPECT_EQ(clubOf(m_player), kClub);
+    EXPECT_EQ(clubOf(other), kClub);
+    EXPECT_EQ(count("selects"), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Store, OfferFailure,
+    ::testing::Values(
+        // The second signing's move is refused: the first stands and is told, the second waits.
+        Failure{"oneSigningRefused",
+                "create temp trigger broken before update on jugadores when old.idjugador = %1"
+                " begin select raise(abort, 'database or disk is full'); end",
+                true},
+        // The disk takes the whole week's answers with it: nothing is told, everything waits.
+        Failure{"allAnswersLost",
+                "create temp trigger broken after insert on traspasos"
+                " begin select raise(rollback, 'database or disk is full'); end",
+                false}),
+    [](const auto &info) { return std::string(info.param.name); });
 
 // Guards: sums that overflow the game's money wrapping round into small or negative offers,
 // and a years box read as a number it does not hold.
