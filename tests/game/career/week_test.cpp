@@ -2,6 +2,7 @@
 #include "career/week.h"
 #include "career/weekevents.h"
 #include "careerfixture.h"
+#include "money.h"
 #include "stadium/ledger.h"
 #include "stadium/works.h"
 
@@ -31,13 +32,22 @@ protected:
     }
 };
 
-// Guards: a first week that charges the wrong wages or opens the ledger at the wrong balance.
+// Guards: a first week that charges the wrong wages (a half rounded up where the game rounds
+// it to the even number) or opens the ledger at the wrong balance.
 TEST_F(WeekTest, theFirstWeekPaysWagesAndStaffAndOpensTheLedgerRow)
 {
-    planSeason(3);
+    planSeason(2);
+    ASSERT_EQ(count("calendario"), 32);
+    // The squad's wages made to land on a half over the 32 weeks, with an even whole part.
+    const qint64 even = (seasonWages() / 64 + 1) * 2;
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update jugadores set Ficha = Ficha + ? where idjugador = (select min(idjugador) from jugadores"
+                         " where idequipo = ?)",
+                         even * 32 + 16 - seasonWages(), kClub);
+    }).ok());
+    const qint64 wages = game::roundHalfEven(seasonWages(), 32);
+    ASSERT_EQ(wages, even);
     const qint64 before = budget();
-    const qint64 wages = qRound64(double(seasonWages()) / 33.0);
-    ASSERT_EQ(count("calendario"), 33);
     ASSERT_TRUE(m_store->run([&] { m_store->execute("insert into jugar values (2, 40, 'A', 'B', 70, 'Portero', 1)"); }).ok());
 
     Week week(*m_context);
