@@ -370,8 +370,10 @@ TEST_F(WorksTest, theShopPaysEveryWeekItStandsFromTheWeekItIsBuilt)
     works.runWeek();
     EXPECT_EQ(row(2).tiendas, 1000);
 
-    // Without a shop nothing comes until the one ordered now is built, that very week.
+    // Without a shop nothing comes until the one ordered now is built, that very week; a
+    // balance below zero changes nothing.
     setStadium({{"tienda", 0}});
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("update infoteams set presupuesto = -9000000 where idequipo = ?", kClub); }).ok());
     ASSERT_EQ(works.order({Choice::Shop}), 1); // week 2, seven weeks
     for (int week = 3; week <= 8; ++week) {
         openUntil(week);
@@ -381,6 +383,7 @@ TEST_F(WorksTest, theShopPaysEveryWeekItStandsFromTheWeekItIsBuilt)
     openUntil(9);
     EXPECT_EQ(works.runWeek(), 1);
     EXPECT_EQ(row(9).tiendas, 1000);
+    EXPECT_LT(row(9).caja, 0);
     EXPECT_EQ(row(9).remodelaciones, 90000);
     EXPECT_EQ(stadium("tienda"), 1);
 }
