@@ -2,6 +2,7 @@
 
 #include "career/newcareer.h"
 #include "career/preseason.h"
+#include "league/leagueclubs.h"
 #include "tempstore.h"
 
 // A test that starts a career and plans its pre-season before it begins.
@@ -10,10 +11,12 @@ class CareerTest : public StoreTest
 protected:
     static constexpr int kClub = 4; // Portland San Antonio
 
+    // The career row names the club as its crest does, so the rules that tell the user's club
+    // by its name (home or away, the gate, the prices) meet the name they meet in a game.
     void startCareer(int club = kClub)
     {
         ASSERT_TRUE(game::NewCareer(*m_context).start(
-            {QStringLiteral("Ana"), QStringLiteral("Ruiz"), club, QStringLiteral("CLUB %1").arg(club)}));
+            {QStringLiteral("Ana"), QStringLiteral("Ruiz"), club, game::leagueClubCaption(club)}));
     }
 
     // Plays the first `friendlies` slots against clubs abroad, declines the rest, and goes on.

@@ -2,6 +2,7 @@
 
 double ScriptedRandom::uniform()
 {
+    ++m_draws;
     if (m_values.empty())
         return m_fallback.uniform();
     const double value = m_values.front();

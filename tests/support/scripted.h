@@ -19,8 +19,11 @@ public:
     // Scripts the u that makes draw(n) give exactly `value`.
     void scriptDraw(int value, int n) { m_values.push_back((value - 0.5) / n); }
     double uniform() override;
+    // How many values have been drawn, scripted or not.
+    int draws() const { return m_draws; }
 
 private:
+    int m_draws = 0;
     std::deque<double> m_values;
     game::SystemRandom m_fallback;
 };

@@ -111,7 +111,8 @@ bool Career::openWeek()
 
 void Career::runEvents()
 {
-    if (m_stage != Stage::Week)
+    // A call behind a message box of the events themselves waits for them to end.
+    if (m_stage != Stage::Week || m_week.eventsRunning())
         return;
     if (!m_week.eventsRun()) {
         m_week.runEvents();

@@ -2,12 +2,14 @@
 
 #include "league/careerrow.h"
 #include "dialogs.h"
+#include "stadium/statements.h"
 #include "stadium/works.h"
 #include "career/statements.h"
 #include "store/gamestore.h"
 #include "transfers/statements.h"
 #include "transfers/offers.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace game {
@@ -105,13 +107,41 @@ SeasonClose::Verdict SeasonClose::verdict()
 int SeasonClose::settleQueue()
 {
     GameStore &store = m_context.store;
-    const int works = Works(m_context).finishAll();
-    const Offers::Settled offers = Offers(m_context).settleAllAtClose();
+    int settled = 0;
+    Announcements told;
+    const Result done = store.run([&] {
+        settled = 0;
+        told.clear();
+        const CareerRow career = CareerRow::read(store);
+        // The orders are settled as they stand in the queue, works and offers alike, so an
+        // offer placed before a work is answered before the work is told ended.
+        const std::vector<sql::transfers::WaitingOffer> offers = sql::transfers::allOffers(store);
+        Works works(m_context);
+        Offers answers(m_context);
+        Offers::Settled answered;
+        for (const sql::stadium::QueuedOrder &row : sql::stadium::queue(store)) {
+            if (row.text != QLatin1String(" ")) {
+                settled += works.finishAtClose(row, career.club, told) ? 1 : 0;
+                continue;
+            }
+            const auto offer = std::ranges::find(offers, row.rowid, &sql::transfers::WaitingOffer::rowid);
+            if (offer != offers.end())
+                settled += answers.answerAtClose(career, *offer, answered, told) ? 1 : 0;
+        }
+        // Nothing waits into the next season: what is left (an offer of nothing for the club,
+        // a row that is no order the game wrote) goes with the season.
+        sql::career::emptyQueue(store);
+    });
+    if (!done) {
+        m_context.dialogs.tell(done.message(), Dialogs::Icon::Exclamation);
+        return 0;
+    }
+    told.tellTo(m_context.dialogs);
     // The planner starts from an empty pre-season.
     const Result emptied = store.run([&] { sql::career::clearPreseason(store); });
     if (!emptied)
         m_context.dialogs.tell(emptied.message(), Dialogs::Icon::Exclamation);
-    return works + offers.signings + offers.refusals;
+    return settled;
 }
 
 } // namespace game

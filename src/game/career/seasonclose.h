@@ -49,8 +49,9 @@ public:
     // The verdict as the places stand (the user's line as the table holds it now).
     Verdict verdict();
 
-    // Every order still waiting is settled, with its messages, and the pre-season is emptied
-    // for the planner. Returns the orders settled.
+    // Every order still waiting is settled in the queue's order, works and offers as they
+    // come, and the queue is emptied; the messages are told once it is all written. Then the
+    // pre-season is emptied for the planner. Returns the orders settled.
     int settleQueue();
 
 private:

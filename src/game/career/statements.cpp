@@ -86,6 +86,11 @@ void clearPreseason(GameStore &store)
     store.execute("delete from pretemporada");
 }
 
+void emptyQueue(GameStore &store)
+{
+    store.execute("delete from selects");
+}
+
 std::vector<CalendarMatch> friendliesPlanned(GameStore &store)
 {
     std::vector<CalendarMatch> matches;

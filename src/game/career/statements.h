@@ -47,6 +47,8 @@ struct Friendly
 std::optional<Friendly> friendly(GameStore &store, int slot);
 void eraseFriendly(GameStore &store, int slot);
 void clearPreseason(GameStore &store);
+// The queue of orders in selects, emptied as a season closes.
+void emptyQueue(GameStore &store);
 
 // The calendar: the matches of the season in the order they are played.
 struct CalendarMatch

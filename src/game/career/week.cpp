@@ -12,23 +12,33 @@
 #include "career/statements.h"
 #include "store/gamestore.h"
 
+#include <QObject>
+#include <QScopeGuard>
+
 namespace game {
 
 Week::Week(Context context) : m_context(context)
 {
     // The offers, the stadium, the bids and the television report to this week: what they
-    // brought, and the channel waiting for the player's OK.
+    // brought, and the channel waiting for the player's OK. Each says whether it went through.
     m_events.set(WeekEvents::Step::RivalSquad,
-                 [this](const std::optional<Fixture> &fixture) { RivalSquad(m_context).prepare(fixture); });
+                 [this](const std::optional<Fixture> &fixture) { return RivalSquad(m_context).prepare(fixture); });
     m_events.set(WeekEvents::Step::Offers, [this](const std::optional<Fixture> &) {
         const Offers::Settled settled = Offers(m_context).settleDue();
         m_news.signings = settled.signings;
         m_news.refusals = settled.refusals;
+        return settled.done;
     });
-    m_events.set(WeekEvents::Step::Stadium,
-                 [this](const std::optional<Fixture> &) { m_news.worksFinished = Works(m_context).runWeek(); });
-    m_events.set(WeekEvents::Step::Bids,
-                 [this](const std::optional<Fixture> &) { m_news.sale = Bids(m_context).run() == Bids::Outcome::Sold; });
+    m_events.set(WeekEvents::Step::Stadium, [this](const std::optional<Fixture> &) {
+        const std::optional<int> finished = Works(m_context).runWeek();
+        m_news.worksFinished = finished.value_or(0);
+        return finished.has_value();
+    });
+    m_events.set(WeekEvents::Step::Bids, [this](const std::optional<Fixture> &) {
+        const Bids::Outcome outcome = Bids(m_context).run();
+        m_news.sale = outcome == Bids::Outcome::Sold;
+        return outcome != Bids::Outcome::Failed;
+    });
     m_events.set(WeekEvents::Step::Television,
                  [this](const std::optional<Fixture> &fixture) { m_broadcast = Television(m_context).run(fixture); });
 }
@@ -80,7 +90,8 @@ void Week::reopen(bool eventsRun, const std::optional<QString> &broadcast, bool 
         if (!m_seasonOver)
             m_fixture = fixtureOfWeek(store, m_number, m_career.club);
     });
-    m_eventsRun = eventsRun;
+    if (eventsRun)
+        m_done.set();
     m_broadcast = broadcast;
     m_gatePosted = gatePosted;
     m_played = played;
@@ -92,7 +103,8 @@ void Week::close()
     m_number = 0;
     m_seasonOver = false;
     m_fixture.reset();
-    m_eventsRun = false;
+    m_done.reset();
+    m_eventsTried = false;
     m_gate.reset();
     m_gatePosted = false;
     m_played = false;
@@ -102,19 +114,37 @@ void Week::close()
 
 void Week::runEvents()
 {
-    if (!isOpen() || m_seasonOver || m_eventsRun)
+    // A message box of an event runs the event loop, and the week's timer must not start the
+    // events again behind it.
+    if (!isOpen() || m_seasonOver || eventsRun() || m_eventsRunning)
         return;
-    // Marked first: a message box of an event runs the event loop, and the week's timer must
-    // not start the events again behind it.
-    m_eventsRun = true;
-    m_events.run(m_fixture);
+    m_eventsRunning = true;
+    const auto running = qScopeGuard([this] { m_eventsRunning = false; });
+    m_eventsTried = true;
+    // Only the steps that go through count as run; one that failed is tried again next time.
+    m_events.run(m_fixture, m_done);
+}
+
+bool Week::stepDone(WeekEvents::Step step) const
+{
+    return m_done[WeekEvents::index(step)];
 }
 
 std::optional<Week::Kickoff> Week::kickOff()
 {
     if (!m_fixture || m_played)
         return std::nullopt;
-    runEvents();
+    // The events have their go before the match; a step that failed is tried again by the
+    // next runEvents(), which the career calls on its way to every kick-off.
+    if (!m_eventsTried)
+        runEvents();
+    // Without the rival's seven there is no match to play.
+    if (!stepDone(WeekEvents::Step::RivalSquad)) {
+        m_context.dialogs.tell(QObject::tr("El rival todavía no ha podido elegir a sus siete titulares, así que el "
+                                           "partido no puede empezar. Inténtalo de nuevo."),
+                               Dialogs::Icon::Exclamation);
+        return std::nullopt;
+    }
     Kickoff kickoff;
     kickoff.setup = MatchDay(m_context).setup(*m_fixture);
     Gate gate(m_context);

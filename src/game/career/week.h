@@ -69,14 +69,22 @@ public:
     const std::optional<Fixture> &fixture() const { return m_fixture; }
 
     // The week's events: the rival names his seven, offers are answered, works end, clubs
-    // bid, television buys. Once a week; later calls do nothing.
+    // bid, television buys. Each step runs once a week: one that failed (the store refused
+    // it, and nothing of it was written) is tried again at the next call, and the steps that
+    // went through are not run again. A call made while the events are running (behind one
+    // of their message boxes) does nothing.
     void runEvents();
-    bool eventsRun() const { return m_eventsRun; }
+    // Every step of the week's events has gone through.
+    bool eventsRun() const { return m_done.all(); }
+    bool eventsRunning() const { return m_eventsRunning; }
+    bool stepDone(WeekEvents::Step step) const;
 
-    // The week's match opens: its events first if they have not run (the rival must have
-    // named his seven), then both sides and the crowd. The gate is settled once a week: a
-    // match opened again (after a result that could not be written) shows the same crowd and
-    // pays nothing more. Nothing when the week has no match or it has been played.
+    // The week's match opens: its events first if they have not been tried, then both sides
+    // and the crowd. The match never opens without the rival's seven: while his step has not
+    // gone through the kick-off is refused with a message (runEvents() tries the step
+    // again). The gate is settled once a week: a match opened again (after a result that
+    // could not be written) shows the same crowd and pays nothing more. Nothing when the week
+    // has no match or it has been played.
     std::optional<Kickoff> kickOff();
 
     // Records the week's result and plays the rest of its round. False when the store failed
@@ -114,7 +122,9 @@ private:
     int m_number = 0;
     bool m_seasonOver = false;
     std::optional<Fixture> m_fixture;
-    bool m_eventsRun = false;
+    WeekEvents::Done m_done;
+    bool m_eventsTried = false;
+    bool m_eventsRunning = false;
     std::optional<Gate::Report> m_gate;
     bool m_gatePosted = false;
     bool m_played = false;

@@ -1,6 +1,5 @@
 #include "standings.h"
 
-#include "dialogs.h"
 #include "reports/statements.h"
 #include "store/gamestore.h"
 
@@ -18,13 +17,16 @@ std::vector<Standings::Row> Standings::table()
 std::vector<Standings::Row> Standings::look()
 {
     const std::vector<Row> rows = table();
-    const Result written = m_context.store.run([&] {
+    // Writing the places is no act of the player's: a place the store refuses is skipped, the
+    // others are written, and the table is shown all the same, without a word.
+    GameStore &store = m_context.store;
+    (void)store.run([&] {
         int place = 0;
-        for (const Row &row : rows)
-            sql::reports::writePlace(m_context.store, row.club, ++place);
+        for (const Row &row : rows) {
+            ++place;
+            store.attempt([&] { sql::reports::writePlace(store, row.club, place); });
+        }
     });
-    if (!written)
-        m_context.dialogs.tell(written.message(), Dialogs::Icon::Exclamation);
     return rows;
 }
 

@@ -34,8 +34,9 @@ public:
 
     // The table in its order, without writing anything.
     std::vector<Row> table();
-    // The table, with the places written (1 to 16) in one transaction. When the store fails
-    // the player is told and the table is still shown.
+    // The table, with the places written (1 to 16) in one transaction. A place the store
+    // refuses is skipped without a word, like every failure of this routine, and the table
+    // is still shown.
     std::vector<Row> look();
 
 private:

@@ -248,17 +248,22 @@ void queueWork(GameStore &store, Works::Item item, qint64 value, int club, int w
                   statement, week, text, payment);
 }
 
-void carryOut(GameStore &store, const QString &statement, Works::Item item)
+bool carryOut(GameStore &store, const QString &statement)
 {
     // The statement is read back by the pattern the game wrote it in, and the change is made
     // with its numbers bound; so the capacity is the one fixed when the order was placed.
     static const QRegularExpression pattern(
         QStringLiteral("^update estadios set ([A-Za-z_]+)=(-?\\d+) where idequipo=(-?\\d+)$"));
-    const Column &column = columnOf(item);
     const QRegularExpressionMatch match = pattern.match(statement);
-    if (!match.hasMatch() || match.captured(1).compare(QLatin1String(column.name), Qt::CaseInsensitive) != 0)
-        throw std::runtime_error("the order's statement is not one the stadium wrote");
-    store.execute(column.set, match.captured(2).toLongLong(), match.captured(3).toLongLong());
+    if (!match.hasMatch())
+        return false;
+    for (const Column &column : kColumns) {
+        if (match.captured(1).compare(QLatin1String(column.name), Qt::CaseInsensitive) == 0) {
+            store.execute(column.set, match.captured(2).toLongLong(), match.captured(3).toLongLong());
+            return true;
+        }
+    }
+    return false;
 }
 
 void dropQueued(GameStore &store, qint64 rowid)

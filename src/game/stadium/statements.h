@@ -76,9 +76,10 @@ std::vector<QueuedOrder> queue(GameStore &store);
 // Queues a works order: the statement that sets the item to value for the club, written now
 // with its numbers, the week, the order's text and the payment the game notes beside it.
 void queueWork(GameStore &store, Works::Item item, qint64 value, int club, int week, const char *text, qint64 cost);
-// Carries out the statement of a works order for its item, with its numbers bound. Throws when
-// the statement is not one the stadium wrote for that item.
-void carryOut(GameStore &store, const QString &statement, Works::Item item);
+// Carries out the statement of a works order as it was stored, with its numbers bound: it sets
+// one item of a club's stadium. False, with nothing written, when the statement is not of the
+// kind the stadium writes.
+bool carryOut(GameStore &store, const QString &statement);
 void dropQueued(GameStore &store, qint64 rowid);
 
 // The name of a broadcaster, 1 to 7.

@@ -6,9 +6,9 @@
 #include "stadium/statements.h"
 #include "store/gamestore.h"
 
+#include <QObject>
 #include <QStringList>
 
-#include <stdexcept>
 
 namespace game {
 
@@ -166,7 +166,8 @@ bool ticked(const ChoiceLine &line, const Works::Stadium &stadium)
 
 // The four tokens of a works order: "gradas 1000 1000000 12". A transfer offer holds a single
 // blank instead, and anything that is not four tokens with a number for the cost and one for
-// the weeks is no order the stadium wrote: the works routines leave it alone.
+// the weeks is no order the stadium wrote: the works routines leave it alone, and it goes
+// only when the season's close empties the queue.
 struct OrderText
 {
     QString key;
@@ -194,18 +195,20 @@ std::optional<OrderText> parseOrder(const QString &text)
     return order;
 }
 
-// Puts into effect the statement an order holds, for the item the catalogue names for the
-// order's text. A text or a statement the stadium did not write fails like any failed
-// statement.
-void applyWork(GameStore &store, const sql::stadium::QueuedOrder &row)
+// Puts into effect the statement an order holds, as it was stored, whatever its text says;
+// the statement fixed the item and its new level or capacity when the order was placed. A
+// statement that is not of the kind the stadium writes is refused, and the player is told:
+// the work never silently leaves the stadium as it was. A statement the store fails on is
+// skipped like any failed statement of the walk.
+void applyWork(GameStore &store, const sql::stadium::QueuedOrder &row, const QString &key, Announcements &told)
 {
-    for (const Works::Order &order : kCatalogue) {
-        if (row.text == QLatin1String(order.text)) {
-            sql::stadium::carryOut(store, row.statement, order.item);
-            return;
-        }
+    bool applied = false;
+    if (store.attempt([&] { applied = sql::stadium::carryOut(store, row.statement); }) && !applied) {
+        told.add(QObject::tr("La orden de las obras de %1 no es válida y no se ha podido cumplir: el estadio sigue "
+                             "como estaba.")
+                     .arg(key.toUpper()),
+                 Dialogs::Icon::Exclamation);
     }
-    throw std::runtime_error("the order's text is not one the stadium wrote");
 }
 
 QString finishedMessage(const QString &key)
@@ -353,12 +356,14 @@ int Works::order(const std::vector<Choice> &ticked)
     return placed;
 }
 
-int Works::runWeek()
+std::optional<int> Works::runWeek()
 {
     GameStore &store = m_context.store;
     int finished = 0;
+    Announcements told;
     const Result walked = store.run([&] {
         finished = 0;
+        told.clear();
         const CareerRow career = CareerRow::read(store);
         Ledger ledger(store);
         for (const sql::stadium::QueuedOrder &row : sql::stadium::queue(store)) {
@@ -368,11 +373,11 @@ int Works::runWeek()
             // A work ordered in week 20 with 12 weeks ends as week 32 opens, not 31.
             if (row.week + order->weeks > career.week)
                 continue;
-            m_context.dialogs.tell(finishedMessage(order->key));
+            told.add(finishedMessage(order->key));
             // Each step may fail on its own: the work is still paid for and its order goes,
             // so it never ends twice.
             store.attempt([&] { ledger.postWorks(career.week, order->cost); });
-            store.attempt([&] { applyWork(store, row); });
+            applyWork(store, row, order->key, told);
             store.attempt([&] { sql::stadium::dropQueued(store, row.rowid); });
             ++finished;
         }
@@ -384,35 +389,24 @@ int Works::runWeek()
     });
     if (!walked) {
         m_context.dialogs.tell(walked.message(), Dialogs::Icon::Exclamation);
-        return 0;
+        return std::nullopt;
     }
+    told.tellTo(m_context.dialogs);
     return finished;
 }
 
-int Works::finishAll()
+bool Works::finishAtClose(const sql::stadium::QueuedOrder &row, int club, Announcements &told)
 {
     GameStore &store = m_context.store;
-    int finished = 0;
-    const Result closed = store.run([&] {
-        finished = 0;
-        const CareerRow career = CareerRow::read(store);
-        for (const sql::stadium::QueuedOrder &row : sql::stadium::queue(store)) {
-            const std::optional<OrderText> order = parseOrder(row.text);
-            if (!order)
-                continue;
-            // Cut short by the season's end: the budget pays, not a week of the ledger.
-            store.attempt([&] { sql::stadium::chargeBudget(store, career.club, order->cost); });
-            m_context.dialogs.tell(QStringLiteral("Si Tenías Obras de Mejora del Estadio se Han terminado"));
-            store.attempt([&] { applyWork(store, row); });
-            store.attempt([&] { sql::stadium::dropQueued(store, row.rowid); });
-            ++finished;
-        }
-    });
-    if (!closed) {
-        m_context.dialogs.tell(closed.message(), Dialogs::Icon::Exclamation);
-        return 0;
-    }
-    return finished;
+    const std::optional<OrderText> order = parseOrder(row.text);
+    if (!order)
+        return false;
+    // Cut short by the season's end: the budget pays, not a week of the ledger.
+    store.attempt([&] { sql::stadium::chargeBudget(store, club, order->cost); });
+    told.add(QStringLiteral("Si Tenías Obras de Mejora del Estadio se Han terminado"));
+    applyWork(store, row, order->key, told);
+    store.attempt([&] { sql::stadium::dropQueued(store, row.rowid); });
+    return true;
 }
 
 } // namespace game

@@ -11,6 +11,11 @@
 
 namespace game {
 
+class Announcements;
+namespace sql::stadium {
+struct QueuedOrder;
+}
+
 // Stadium works: the choices the stadium offers for each of its items, the nineteen of them
 // that order a work, the orders under way, and their end.
 //
@@ -135,12 +140,16 @@ public:
 
     // The week's stadium event: each work due ends (its message, its cost in the week's
     // ledger row, the stadium changed, its row gone), then the shop pays 1000 when the
-    // stadium has one. Returns the works finished.
-    int runWeek();
+    // stadium has one. The messages are told once it is all written. Returns the works
+    // finished, or nothing when the store failed: nothing was written and the event is to be
+    // tried again.
+    std::optional<int> runWeek();
 
-    // The season's close: every work left ends whatever its weeks, at the cost of the
-    // budget, with its message. Returns the works finished.
-    int finishAll();
+    // The season's close ends a works order of the queue, in the queue's order among the
+    // offers, whatever its weeks: its cost from the budget, its message added to told (to be
+    // told once the close is written), the stadium changed, its row gone. False for a row
+    // that is no works order.
+    bool finishAtClose(const sql::stadium::QueuedOrder &row, int club, Announcements &told);
 
 private:
     Context m_context;

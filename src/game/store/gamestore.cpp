@@ -1,5 +1,6 @@
 #include "gamestore.h"
 
+#include "spanishorder.h"
 #include "unicodelike.h"
 
 #include <QDir>
@@ -12,6 +13,8 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Statement.h>
+
+#include <sqlite3.h>
 
 #include <string>
 #include <unordered_map>
@@ -46,6 +49,17 @@ struct GameStore::Connection
     SQLite::Database db;
     // Every statement compiled for a text; usually one, more while queries of it are nested.
     std::unordered_map<std::string, std::vector<std::unique_ptr<Prepared>>, TextHash, std::equal_to<>> statements;
+
+    // Finishes the statements that no query is reading through, as one that failed is left.
+    void resetIdle()
+    {
+        for (auto &[text, pool] : statements) {
+            for (auto &prepared : pool) {
+                if (!prepared->busy)
+                    prepared->statement.tryReset();
+            }
+        }
+    }
 
     void resetAll()
     {
@@ -134,6 +148,7 @@ Result GameStore::openConnection(bool readOnly)
         }
         connection->db.exec("PRAGMA foreign_keys=OFF");
         registerUnicodeLike(connection->db.getHandle());
+        registerSpanishOrder(connection->db.getHandle());
         m_connection = std::move(connection);
         return Result::success();
     } catch (const std::exception &e) {
@@ -390,10 +405,27 @@ Result GameStore::run(const std::function<void()> &body)
 
 bool GameStore::attempt(const std::function<void()> &step)
 {
+    // Inside a transaction the step stands on a savepoint of its own: a step that fails takes
+    // back all it wrote, and what the routine wrote before it stays.
+    const bool inTransaction = m_transactionDepth > 0 && m_connection;
+    if (inTransaction)
+        m_connection->db.exec("SAVEPOINT attempt");
     try {
         step();
+        if (inTransaction)
+            m_connection->db.exec("RELEASE attempt");
         return true;
     } catch (const std::runtime_error &) { // the database's failures, SQLite's own included
+        if (inTransaction) {
+            // Some failures (a full disk, a lost file) take the whole transaction with them;
+            // the savepoint is gone then, and the routine cannot go on as if the step had
+            // simply been skipped: the failure goes up to run(), which gives up the routine.
+            if (sqlite3_get_autocommit(m_connection->db.getHandle()))
+                throw;
+            m_connection->resetIdle();
+            m_connection->db.exec("ROLLBACK TO attempt");
+            m_connection->db.exec("RELEASE attempt");
+        }
         return false;
     }
 }

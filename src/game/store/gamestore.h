@@ -145,7 +145,9 @@ public:
     Result run(const std::function<void()> &body);
 
     // For the steps that may fail without stopping what the player is doing: a failure of the
-    // database returns false and leaves the rest of the routine to go on.
+    // database returns false and leaves the rest of the routine to go on. Inside run() a step
+    // is whole or nothing: one that fails takes back what it wrote. A failure that has cost
+    // the whole transaction is not swallowed: it fails the run() around it.
     bool attempt(const std::function<void()> &step);
 
     // How many statements have been executed since the store was made (for the benchmarks).

@@ -17,7 +17,10 @@ Bids::Outcome Bids::run()
     GameStore &store = m_context.store;
     Random &chance = m_context.random;
     Outcome outcome = Outcome::NoBid;
+    Announcements told;
     const Result done = store.run([&] {
+        outcome = Outcome::NoBid;
+        told.clear();
         const CareerRow career = CareerRow::read(store);
         // The club's listed players are read once; the draws then look among them.
         const std::vector<int> listedIds = sql::transfers::listedOf(store, career.club);
@@ -55,21 +58,22 @@ Bids::Outcome Bids::run()
             outcome = Outcome::PlayerRefused;
             return;
         }
-        m_context.dialogs.tell(nombre + QStringLiteral(" Ha sido Fichado por el ") + club, Dialogs::Icon::Information);
+        // The sale is written whole, and told once it is: a sale that could not be written is
+        // never announced.
+        told.add(nombre + QStringLiteral(" Ha sido Fichado por el ") + club, Dialogs::Icon::Information);
         // Only his club changes: he stays listed, with his shirt, wage, clause and contract.
-        store.attempt([&] { sql::transfers::moveTo(store, player, bidder); });
+        sql::transfers::moveTo(store, player, bidder);
         // His place among the fourteen, found by his id, takes its empty form again.
-        store.attempt([&] { sql::transfers::freeCallUpPlace(store, player); });
-        store.attempt([&] { Ledger(store).postSale(career.week, bid); });
-        store.attempt([&] {
-            sql::transfers::recordMove(store, career.season, career.week, player, sql::transfers::kSale, bid);
-        });
+        sql::transfers::freeCallUpPlace(store, player);
+        Ledger(store).postSale(career.week, bid);
+        sql::transfers::recordMove(store, career.season, career.week, player, sql::transfers::kSale, bid);
         outcome = Outcome::Sold;
     });
     if (!done) {
         m_context.dialogs.tell(done.message(), Dialogs::Icon::Exclamation);
-        return Outcome::NoBid;
+        return Outcome::Failed;
     }
+    told.tellTo(m_context.dialogs);
     return outcome;
 }
 

@@ -24,7 +24,8 @@ public:
 
     explicit Bids(Context context) : m_context(context) {}
 
-    enum class Outcome { NoBid, Declined, PlayerRefused, Sold };
+    // Failed: the store failed and nothing was written; the week's bid is to be tried again.
+    enum class Outcome { NoBid, Declined, PlayerRefused, Sold, Failed };
     Outcome run();
 
 private:

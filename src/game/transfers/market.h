@@ -67,7 +67,8 @@ public:
         QString edad;
     };
     std::vector<Line> search(const Search &criteria);
-    // Every player, by first name: the scout's list before a search.
+    // Every player, by first name as a Spanish reader orders it: the scout's list before a
+    // search.
     std::vector<Line> everybody();
 
     // The youth pool (club 84) in one position.

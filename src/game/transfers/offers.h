@@ -8,6 +8,12 @@
 
 namespace game {
 
+class Announcements;
+struct CareerRow;
+namespace sql::transfers {
+struct WaitingOffer;
+}
+
 // Offers for players. An offer is a pending order in `selects`: the sum for the player's
 // club, the release clause and the yearly wage offered to the player, the contract's years,
 // and the finished order that moves him, with the shirt number he will wear fixed at the
@@ -48,19 +54,29 @@ public:
     bool make(int player, const Terms &terms);
 
     // The week's event: every offer made three weeks ago is answered, each on its own, with
-    // its messages. Offers of 0 for the club are no offers and stay. Returns the signings.
+    // its messages, told once the answers are written. An offer whose answer could not be
+    // written waits, and is answered at a later opening with the offers of its week, so the
+    // offers three weeks old or older are due. Offers of 0 for the club are no offers and
+    // stay. done is false when the store failed: nothing was answered, and the step is to be
+    // tried again.
     struct Settled
     {
         int signings = 0;
         int refusals = 0;
+        bool done = true;
     };
     Settled settleDue();
-    // The season's close: every offer waiting, however young, is answered the same way, and
-    // a yes is paid out of the budget, the season's ledger being gone.
-    Settled settleAllAtClose();
+
+    // The season's close answers every offer waiting, however young, the same way, in the
+    // queue's order among the works: a yes is paid out of the budget, the season's ledger
+    // being gone. Its messages go to told, to be told once the close is written. False, with
+    // nothing of it written, when the store failed on it.
+    bool answerAtClose(const CareerRow &career, const sql::transfers::WaitingOffer &offer, Settled &settled,
+                       Announcements &told);
 
 private:
-    Settled settle(bool seasonClose);
+    bool answer(const CareerRow &career, const sql::transfers::WaitingOffer &offer, bool seasonClose,
+                Settled &settled, Announcements &told);
     Context m_context;
 };
 

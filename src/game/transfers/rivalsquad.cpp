@@ -47,10 +47,10 @@ std::optional<Player> drawNewcomer(GameStore &store, Random &random, const QStri
 
 } // namespace
 
-void RivalSquad::prepare(const std::optional<Fixture> &fixture)
+bool RivalSquad::prepare(const std::optional<Fixture> &fixture)
 {
     if (!fixture)
-        return; // no match this week, so no side to name
+        return true; // no match this week, so no side to name
 
     GameStore &store = m_context.store;
     const int rival = fixture->rivalId;
@@ -83,6 +83,7 @@ void RivalSquad::prepare(const std::optional<Fixture> &fixture)
     });
     if (!written)
         m_context.dialogs.tell(written.message(), Dialogs::Icon::Exclamation);
+    return bool(written);
 }
 
 } // namespace game

@@ -35,7 +35,9 @@ public:
     explicit RivalSquad(Context context) : m_context(context) {}
 
     // Names the rival's seven for the week's match; a week without a match does nothing.
-    void prepare(const std::optional<Fixture> &fixture);
+    // False when the store failed: the player has been told, nothing was written, and the
+    // rival has no side yet.
+    bool prepare(const std::optional<Fixture> &fixture);
 
 private:
     Context m_context;

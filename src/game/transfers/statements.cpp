@@ -50,7 +50,8 @@ std::vector<WaitingOffer> offersIn(GameStore::Query rows)
 {
     std::vector<WaitingOffer> offers;
     while (rows.next())
-        offers.push_back({rows.text(0), rows.integer(1), rows.integer(2), rows.integer(3), rows.integer(4)});
+        offers.push_back({rows.integer64(0), rows.text(1), rows.integer(2), rows.integer(3), rows.integer(4),
+                          rows.integer(5)});
     return offers;
 }
 
@@ -241,8 +242,9 @@ std::vector<Market::Line> searchByPosition(GameStore &store, const QString &nomb
 
 std::vector<Market::Line> everybody(GameStore &store)
 {
+    // By first name as a Spanish reader orders it: Álvaro among the A, not after the Z.
     return linesOf(store.query("select idjugador, Nombre, Apellidos, Edad, Posicion, Media, Dorsal, Nacionalidad,"
-                               " \"Años_Contrato\", idequipo from jugadores order by Nombre, idjugador"));
+                               " \"Años_Contrato\", idequipo from jugadores order by Nombre collate espanol, idjugador"));
 }
 
 std::vector<Market::Line> youths(GameStore &store, const QString &posicion)
@@ -307,17 +309,17 @@ void queueOffer(GameStore &store, int week, int club, int shirt, const Offers::T
                   order, week, terms.oferta, terms.clausula, terms.ficha, player);
 }
 
-std::vector<WaitingOffer> offersOf(GameStore &store, int week)
+std::vector<WaitingOffer> offersUpTo(GameStore &store, int week)
 {
-    return offersIn(store.query("select \"select\", oferta, clausula, ficha, jugador from selects where jornada = ?"
-                                " and oferta <> 0 order by rowid",
+    return offersIn(store.query("select rowid, \"select\", oferta, clausula, ficha, jugador from selects"
+                                " where jornada <= ? and oferta <> 0 order by rowid",
                                 week));
 }
 
 std::vector<WaitingOffer> allOffers(GameStore &store)
 {
-    return offersIn(store.query("select \"select\", oferta, clausula, ficha, jugador from selects where oferta <> 0"
-                                " order by rowid"));
+    return offersIn(store.query("select rowid, \"select\", oferta, clausula, ficha, jugador from selects"
+                                " where oferta <> 0 order by rowid"));
 }
 
 bool carryOut(GameStore &store, const QString &order)

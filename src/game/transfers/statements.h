@@ -83,6 +83,7 @@ int nthForSale(GameStore &store, int exceptClub, int nth);
 // when the offer was made, and the terms offered.
 struct WaitingOffer
 {
+    qint64 rowid = 0;
     QString order;
     int oferta = 0;
     int clausula = 0;
@@ -91,9 +92,9 @@ struct WaitingOffer
 };
 // Queues an offer made in a week: the club that signs him, the shirt he will wear, the terms.
 void queueOffer(GameStore &store, int week, int club, int shirt, const Offers::Terms &terms, int player);
-// The offers made in a week, or all of them, in the order they were made; offers of 0 for
+// The offers made up to a week, or all of them, in the order they were made; offers of 0 for
 // the club are none.
-std::vector<WaitingOffer> offersOf(GameStore &store, int week);
+std::vector<WaitingOffer> offersUpTo(GameStore &store, int week);
 std::vector<WaitingOffer> allOffers(GameStore &store);
 // Moves the player as the offer's order says, with its numbers bound. False, with nothing
 // written, when the order is not one the game wrote.

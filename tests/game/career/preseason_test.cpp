@@ -22,7 +22,7 @@ TEST_F(PreseasonPlanner, opensWithNoWeekAndNamesWhoIsPlanning)
 {
     EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 0);
     EXPECT_EQ(m_planner->manager(), QStringLiteral("Ana Ruiz"));
-    EXPECT_EQ(m_planner->clubName(), QStringLiteral("CLUB 4"));
+    EXPECT_EQ(m_planner->clubName(), QStringLiteral("PORTLAND SAN ANTONIO"));
     EXPECT_EQ(m_planner->slotsDealt(), 0);
 }
 

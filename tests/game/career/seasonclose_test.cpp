@@ -86,25 +86,35 @@ TEST_F(SeasonCloseTest, ranksTheChampionSixteenAndEmptiesTheSeason)
 
 // Guards: orders left for a season that no longer has their week: an offer of the last week
 // that waits three more weeks, works that keep their weeks or are charged to a ledger that is
-// gone, or a message missing.
-TEST_F(SeasonCloseTest, settlesEveryOrderAtOnceFromTheBudget)
+// gone, or a message missing; the queue settled out of its order (all works first); a row
+// that is no order kept into the next season; a message at a close with nothing waiting.
+TEST_F(SeasonCloseTest, settlesEveryOrderAtOnceInTheQueuesOrderFromTheBudget)
 {
     playSeason();
     ASSERT_FALSE(HasFatalFailure());
     ASSERT_TRUE(m_store->run([&] { m_store->execute("delete from selects"); }).ok());
-    // Two works and, in the last week, an offer the player's terms accept.
+    // In the last week a work, an offer the player's terms accept, another work, an offer of
+    // nothing for the club and a row that is no order.
     ASSERT_TRUE(m_store->run([&] {
         m_store->execute("update estadios set tienda = 0, cafeteria = 0 where idequipo = ?", kClub);
         m_store->execute("update datos_jugador set jornada = 32");
     }).ok());
     game::Works works(*m_context);
-    ASSERT_EQ(works.order({game::Works::Choice::Shop, game::Works::Choice::Seats2000}), 2);
+    ASSERT_EQ(works.order({game::Works::Choice::Shop}), 1);
     const int player = int(m_store->integer("select min(idjugador) from jugadores where idequipo = 40"));
     const int clause = int(m_store->integer("select Clausula_Recision from jugadores where idjugador = ?", player));
     const int wage = int(m_store->integer("select Ficha from jugadores where idjugador = ?", player));
     ASSERT_TRUE(game::Offers(*m_context).make(player, {clause, clause, wage, 2}));
-    ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set jornada = 33"); }).ok());
+    ASSERT_EQ(works.order({game::Works::Choice::Seats2000}), 1);
+    ASSERT_TRUE(game::Offers(*m_context).make(player + 1, {0, 1, 1, 1}));
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("insert into selects values ('', 32, 0, 0, 0, 0, 'obras', '')");
+        m_store->execute("update datos_jugador set jornada = 33");
+    }).ok());
     const qint64 capacity = m_store->integer("select min_gradas from estadios where idequipo = ?", kClub);
+    const QString signing = QStringLiteral("Has Fichado a %1 del %2")
+                                .arg(m_store->text("select Nombre from jugadores where idjugador = ?", player),
+                                     m_store->text("select NombreEquipo from equipos where idequipo = 40"));
 
     SeasonClose close(*m_context);
     ASSERT_TRUE(close.close().has_value());
@@ -112,13 +122,19 @@ TEST_F(SeasonCloseTest, settlesEveryOrderAtOnceFromTheBudget)
     const qint64 before = budget();
     EXPECT_EQ(close.settleQueue(), 3);
 
-    EXPECT_EQ(m_dialogs.texts().count(QStringLiteral("Si Tenías Obras de Mejora del Estadio se Han terminado")), 2);
+    const QString ended = QStringLiteral("Si Tenías Obras de Mejora del Estadio se Han terminado");
+    EXPECT_EQ(m_dialogs.texts(), (QStringList{ended, signing, ended}));
     EXPECT_EQ(m_store->integer("select tienda from estadios where idequipo = ?", kClub), 1);
     EXPECT_EQ(m_store->integer("select min_gradas from estadios where idequipo = ?", kClub), capacity + 2000);
     EXPECT_EQ(m_store->integer("select idequipo from jugadores where idjugador = ?", player), kClub);
     EXPECT_EQ(budget(), before - 90000 - 5000000 - clause);
     for (const char *table : {"selects", "caja", "calendario", "pretemporada"})
         EXPECT_EQ(count(table), 0) << table;
+
+    // With nothing waiting the close says nothing.
+    m_dialogs.clear();
+    EXPECT_EQ(close.settleQueue(), 0);
+    EXPECT_TRUE(m_dialogs.texts().isEmpty());
 }
 
 // Guards: a career that cannot go past its first season, a second season that replays the
@@ -152,11 +168,11 @@ TEST_F(SeasonCloseTest, theCareerGoesOnIntoASecondSeasonOnTheNewRanks)
     ASSERT_TRUE(season.playWeek());
     EXPECT_EQ(count("calendario"), 31);
     EXPECT_EQ(count("caja where semana = 1"), 1);
+    // The seed is one whose season moves the club to another slot.
+    ASSERT_NE(slotAfter, slotBefore);
     const std::vector<int> secondCalendar = calendar();
-    if (slotAfter != slotBefore) {
-        EXPECT_NE(std::vector<int>(secondCalendar.begin() + 1, secondCalendar.end()),
-                  std::vector<int>(firstCalendar.begin() + 1, firstCalendar.end()));
-    }
+    EXPECT_NE(std::vector<int>(secondCalendar.begin() + 1, secondCalendar.end()),
+              std::vector<int>(firstCalendar.begin() + 1, firstCalendar.end()));
     while (season.playWeek()) {
     }
     EXPECT_TRUE(season.failure().isEmpty()) << season.failure().toStdString();

@@ -2,6 +2,7 @@
 #include "career/week.h"
 #include "career/weekevents.h"
 #include "careerfixture.h"
+#include "money.h"
 #include "stadium/ledger.h"
 #include "stadium/works.h"
 
@@ -31,13 +32,22 @@ protected:
     }
 };
 
-// Guards: a first week that charges the wrong wages or opens the ledger at the wrong balance.
+// Guards: a first week that charges the wrong wages (a half rounded up where the game rounds
+// it to the even number) or opens the ledger at the wrong balance.
 TEST_F(WeekTest, theFirstWeekPaysWagesAndStaffAndOpensTheLedgerRow)
 {
-    planSeason(3);
+    planSeason(2);
+    ASSERT_EQ(count("calendario"), 32);
+    // The squad's wages made to land on a half over the 32 weeks, with an even whole part.
+    const qint64 even = (seasonWages() / 64 + 1) * 2;
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update jugadores set Ficha = Ficha + ? where idjugador = (select min(idjugador) from jugadores"
+                         " where idequipo = ?)",
+                         even * 32 + 16 - seasonWages(), kClub);
+    }).ok());
+    const qint64 wages = game::roundHalfEven(seasonWages(), 32);
+    ASSERT_EQ(wages, even);
     const qint64 before = budget();
-    const qint64 wages = qRound64(double(seasonWages()) / 33.0);
-    ASSERT_EQ(count("calendario"), 33);
     ASSERT_TRUE(m_store->run([&] { m_store->execute("insert into jugar values (2, 40, 'A', 'B', 70, 'Portero', 1)"); }).ok());
 
     Week week(*m_context);
@@ -273,8 +283,73 @@ TEST(WeekEventsOrder, runsTheFiveStepsOnceInTheirFixedOrder)
     events.set(Step::RivalSquad, [&](const auto &) { ran << QStringLiteral("equipo"); });
     events.set(Step::Bids, [&](const auto &) { ran << QStringLiteral("ficharte"); });
     events.set(Step::Offers, [&](const auto &) { ran << QStringLiteral("Fichajes"); });
-    events.run(std::nullopt);
+    game::WeekEvents::Done done;
+    events.run(std::nullopt, done);
     EXPECT_EQ(ran.join(QLatin1Char(' ')), QStringLiteral("equipo Fichajes ficharte tv"));
+    EXPECT_TRUE(done.all()); // the stadium has no routine here: nothing to do
+}
+
+// Guards: the week's events marked as run before they succeed, so a step that failed (a full
+// disk) is never tried again; a step that went through run a second time; or the events
+// started again behind one of their own message boxes.
+TEST_F(WeekTest, aStepThatFailedIsTriedAgainAndOnlyIt)
+{
+    planSeason(0);
+    int rival = 0;
+    int offers = 0;
+    bool mended = false;
+    Week *running = nullptr;
+    game::WeekEvents events;
+    events.set(game::WeekEvents::Step::RivalSquad, [&](const auto &) {
+        ++rival;
+        running->runEvents(); // the panel's timer behind a message box
+        return true;
+    });
+    events.set(game::WeekEvents::Step::Offers, [&](const auto &) {
+        ++offers;
+        return mended;
+    });
+    Week week(*m_context, events);
+    running = &week;
+    ASSERT_TRUE(week.open());
+
+    week.runEvents();
+    week.runEvents();
+    EXPECT_FALSE(week.eventsRun());
+    mended = true;
+    week.runEvents();
+    EXPECT_TRUE(week.eventsRun());
+    week.runEvents();
+    EXPECT_EQ(rival, 1);
+    EXPECT_EQ(offers, 3);
+}
+
+// Guards: a match opened without the rival's seven after his step failed (it was recorded
+// 0-23), or the rival's step never tried again once the store is mended.
+TEST_F(WeekTest, theMatchNeverOpensWithoutTheRivalsSeven)
+{
+    planSeason(0);
+    Week week(*m_context);
+    ASSERT_TRUE(week.open());
+    const int rival = week.fixture()->rivalId;
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("create temp trigger broken before insert on jugar"
+                         " begin select raise(abort, 'database or disk is full'); end");
+    }).ok());
+    week.runEvents();
+    m_dialogs.clear();
+    EXPECT_FALSE(week.kickOff().has_value());
+    ASSERT_EQ(m_dialogs.messages().size(), 1u);
+    EXPECT_EQ(m_dialogs.messages().front().text,
+              QStringLiteral("El rival todavía no ha podido elegir a sus siete titulares, así que el partido no puede "
+                             "empezar. Inténtalo de nuevo."));
+    EXPECT_EQ(count("jugar"), 0);
+
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("drop trigger broken"); }).ok());
+    week.runEvents();
+    EXPECT_TRUE(week.eventsRun());
+    EXPECT_EQ(m_store->integer("select count(*) from jugar where idequipo = ?", rival), 7);
+    EXPECT_TRUE(week.kickOff().has_value());
 }
 
 // Guards: the fee booked by the week's events alone, booked twice by a second OK, or a

@@ -3,6 +3,7 @@
 #include "careerfixture.h"
 #include "match/gate.h"
 #include "stadium/ledger.h"
+#include "stadium/prices.h"
 
 #include <vector>
 
@@ -266,6 +267,18 @@ TEST_F(GateTest, aHugeFullHouseKeepsEveryEuro)
     EXPECT_EQ(row.taquilla, 200000000000LL);
     EXPECT_EQ(row.tiendas, 4000000000LL);
     EXPECT_EQ(row.caja, m_opening.caja + 200000000000LL + 3000000 + 4000000000LL);
+}
+
+// Guards: prices the player set that hold for one match only, or go back at an away match.
+TEST_F(GateTest, pricesSetInAHomeWeekHoldInEveryLaterMatch)
+{
+    game::Prices prices(*m_context);
+    ASSERT_EQ(prices.raiseTicket(), 15);
+    using Match = std::pair<int, int>;
+    for (const auto &[home, away] : {Match{kClub, kRival}, Match{kRival, kClub}, Match{kClub, kRival}}) {
+        scriptHouse(home == kClub ? 3000 : 4000, {2000}, {10});
+        EXPECT_EQ(settle(home, away).gateTakings, 2000 * 15);
+    }
 }
 
 // Guards: an away match that pays the user, or that shows the user's hall instead of the

@@ -38,6 +38,17 @@ TEST_F(StandingsTest, ordersOnPointsThenGoalsAgainstAndWritesOneAtTheTop)
     const std::vector<Standings::Row> again = Standings(*m_context).look();
     EXPECT_EQ(again[0].club, 11);
     EXPECT_EQ(m_store->integer("select Puesto_Actual from asobal where teams = 7"), 2);
+    EXPECT_TRUE(m_dialogs.messages().empty());
+
+    // A place the store refuses is skipped without a word; the table is shown all the same.
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update asobal set Puesto_Actual = 0");
+        m_store->execute("create temp trigger broken before update on asobal when new.teams = 7"
+                         " begin select raise(abort, 'database or disk is full'); end");
+    }).ok());
+    EXPECT_EQ(Standings(*m_context).look().size(), 16u);
+    EXPECT_TRUE(m_dialogs.messages().empty());
+    EXPECT_EQ(m_store->integer("select Puesto_Actual from asobal where teams = 11"), 1);
 }
 
 // Guards: the round of the week counted with the friendlies, a round outside 1 to 30, a

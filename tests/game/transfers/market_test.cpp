@@ -144,6 +144,42 @@ TEST_F(MarketTest, theFullSearchAppliesAllFiveCriteria)
     EXPECT_TRUE(Market(*m_context).search(full).empty());
 }
 
+// Guards: the scout's starting list in the order of the bytes, which puts Álvaro, Óscar and
+// Željko after every plain Z.
+TEST_F(MarketTest, everybodyStandsByFirstNameAsASpanishReaderOrdersThem)
+{
+    const std::vector<Market::Line> all = Market(*m_context).everybody();
+    ASSERT_EQ(qint64(all.size()), count("jugadores"));
+    // The initials, without their accents, never go back in the alphabet.
+    QString initials;
+    for (const Market::Line &line : all) {
+        const QChar initial = line.nombre.normalized(QString::NormalizationForm_D).at(0).toUpper();
+        if (initials.isEmpty() || initials.back() != initial)
+            initials += initial;
+    }
+    QString sorted = initials;
+    std::sort(sorted.begin(), sorted.end());
+    EXPECT_EQ(initials, sorted);
+}
+
+// Guards: a club found by name with like, so that a name like a pattern ("_" for any letter)
+// picks another club: the planner's rival or the players a club shows.
+TEST_F(MarketTest, aClubIsFoundByItsExactName)
+{
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update equipos set NombreEquipo = 'Club X' where idequipo = 17");
+        m_store->execute("update equipos set NombreEquipo = 'Club_X' where idequipo = 18");
+    }).ok());
+    const std::vector<Market::Line> players = Market(*m_context).playersOf(QStringLiteral("Club_X"));
+    ASSERT_FALSE(players.empty());
+    for (const Market::Line &line : players)
+        EXPECT_EQ(line.club, 18);
+    game::Preseason planner(*m_context);
+    planner.begin();
+    ASSERT_EQ(planner.choose(QStringLiteral("Club_X")), 0);
+    EXPECT_EQ(m_store->integer("select equipo_local from pretemporada where idpartido = 1"), 18);
+}
+
 // Guards: youths of another position or club, or a card that misses the injury's name.
 TEST_F(MarketTest, theYouthPoolByPositionAndAPlayersCard)
 {

@@ -1,5 +1,7 @@
 #include "careerfixture.h"
+#include "money.h"
 #include "stadium/ledger.h"
+#include "transfers/contracts.h"
 #include "transfers/offers.h"
 
 using game::Offers;
@@ -37,6 +39,8 @@ protected:
     Offers::Terms askingTerms() const { return {m_clause, 2 * m_clause, m_wage, 3}; }
 
     int clubOf(int player) { return int(m_store->integer("select idequipo from jugadores where idjugador = ?", player)); }
+    QString nameOf(int player) { return m_store->text("select Nombre from jugadores where idjugador = ?", player); }
+    QString clubName(int club) { return m_store->text("select NombreEquipo from equipos where idequipo = ?", club); }
 
     int m_player = 0;
     int m_clause = 0;
@@ -71,6 +75,12 @@ TEST_F(OffersTest, anOfferOnTheEdgeOfEveryTermIsSignedThreeWeeksLater)
               QStringLiteral("%1|%2|%3|%4|0|3").arg(kClub).arg(shirt).arg(m_wage).arg(2 * m_clause));
     EXPECT_EQ(game::Ledger(*m_store).row(8)->fichajes, m_clause);
     EXPECT_EQ(m_store->integer("select presupuesto from infoteams where idequipo = ?", kClub), budget);
+
+    // His wage counts from the next week: the week he came in was paid before he did.
+    const qint64 wages = m_store->integer("select sum(Ficha) from jugadores where idequipo = ?", kClub);
+    EXPECT_EQ(game::Ledger(*m_store).row(8)->salarios, game::roundHalfEven(wages - m_wage, 30));
+    goToWeek(9);
+    EXPECT_EQ(game::Ledger(*m_store).row(9)->salarios, game::roundHalfEven(wages, 30));
 }
 
 struct Refusal {
@@ -78,6 +88,7 @@ struct Refusal {
     int oferta, clausula, ficha; // added to the terms that pass
     const char *message;         // %1 the player's name, %2 his club's
     game::Dialogs::Icon icon;
+    int movedTo = 17;            // the club that holds him when the offer falls due
 };
 
 class OfferRefusal : public OffersTest, public ::testing::WithParamInterface<Refusal>
@@ -94,16 +105,19 @@ TEST_P(OfferRefusal, showsOnlyTheFirstRefusalAndLeavesThePlayerWhereHeIs)
     terms.clausula += refusal.clausula;
     terms.ficha += refusal.ficha;
     ASSERT_TRUE(Offers(*m_context).make(m_player, terms));
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update jugadores set idequipo = ? where idjugador = ?", refusal.movedTo, m_player);
+    }).ok());
     goToWeek(5);
     const auto settled = Offers(*m_context).settleDue();
     EXPECT_EQ(settled.signings, 0);
     EXPECT_EQ(settled.refusals, 1);
-    const QString nombre = m_store->text("select Nombre from jugadores where idjugador = ?", m_player);
-    const QString club = m_store->text("select NombreEquipo from equipos where idequipo = ?", kAbroad);
     ASSERT_EQ(m_dialogs.messages().size(), 1u);
-    EXPECT_EQ(m_dialogs.texts().front(), QString::fromUtf8(refusal.message).replace(QStringLiteral("%1"), nombre).replace(QStringLiteral("%2"), club));
+    EXPECT_EQ(m_dialogs.texts().front(), QString::fromUtf8(refusal.message)
+                                             .replace(QStringLiteral("%1"), nameOf(m_player))
+                                             .replace(QStringLiteral("%2"), clubName(refusal.movedTo)));
     EXPECT_EQ(m_dialogs.messages().front().icon, refusal.icon);
-    EXPECT_EQ(clubOf(m_player), kAbroad);
+    EXPECT_EQ(clubOf(m_player), refusal.movedTo);
     EXPECT_EQ(count("selects"), 0);
     EXPECT_EQ(game::Ledger(*m_store).row(5)->fichajes, 0);
 }
@@ -116,7 +130,9 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"wage", 0, 0, -1, "%1 Ha rechazado su Oferta porque no está deacuedo con su Ficha",
                 game::Dialogs::Icon::None},
         Refusal{"clause", 0, +1, 0, "%1 Ha rechazado su Oferta porque no está deacuedo con su Clausula de Rescisión",
-                game::Dialogs::Icon::None}),
+                game::Dialogs::Icon::None},
+        // A player who has moved since is judged on the same terms; his new club answers.
+        Refusal{"clubHeMovedTo", -1, 0, 0, "El %2 Ha rechazado su Oferta", game::Dialogs::Icon::Information, 9}),
     [](const auto &info) { return std::string(info.param.name); });
 
 // Guards: one answer for two offers, a refusal that removes the other offer, or an offer of
@@ -146,6 +162,112 @@ TEST_F(OffersTest, eachOfferDueIsAnsweredOnItsOwnAndAnOfferOfNothingStays)
     EXPECT_EQ(m_store->integer("select count(*) from selects where oferta = 0 and jugador = ?", m_player), 1);
     EXPECT_EQ(count("selects"), 1);
 }
+
+// Guards: the second of two offers for one player judged on his old terms instead of those
+// the first has just written, or not charged; twin offers deleted together, so the later one
+// is never answered.
+TEST_F(OffersTest, eachOfferForOnePlayerMeetsTheTermsTheOneBeforeLeft)
+{
+    goToWeek(2);
+    Offers offers(*m_context);
+    ASSERT_TRUE(offers.make(m_player, {m_clause, m_clause, m_wage, 2}));
+    ASSERT_TRUE(offers.make(m_player, askingTerms())); // passes on the terms the first writes
+    goToWeek(3);
+    ASSERT_TRUE(offers.make(m_player, askingTerms())); // its twin, a week younger
+
+    goToWeek(5);
+    EXPECT_EQ(offers.settleDue().signings, 2);
+    const QString signing = QStringLiteral("Has Fichado a %1 del %2").arg(nameOf(m_player));
+    EXPECT_EQ(m_dialogs.texts(), (QStringList{signing.arg(clubName(kAbroad)), signing.arg(clubName(kClub))}));
+    EXPECT_EQ(game::Ledger(*m_store).row(5)->fichajes, 2 * m_clause);
+    EXPECT_EQ(count("selects"), 1);
+
+    // The twin now meets a clause of twice the sum it offers, at the user's own club.
+    m_dialogs.clear();
+    goToWeek(6);
+    EXPECT_EQ(offers.settleDue().refusals, 1);
+    EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("El %1 Ha rechazado su Oferta").arg(clubName(kClub))});
+    EXPECT_EQ(count("selects"), 0);
+}
+
+// Guards: an offer for a player dismissed since it was made dropped, or answered in another
+// way than any other: he is signed from the released players.
+TEST_F(OffersTest, anOfferForAPlayerDismissedSinceIsAnsweredAsUsual)
+{
+    const int own = int(m_store->integer("select max(idjugador) from jugadores where idequipo = ?", kClub));
+    const int clause = int(m_store->integer("select Clausula_Recision from jugadores where idjugador = ?", own));
+    const int wage = int(m_store->integer("select Ficha from jugadores where idjugador = ?", own));
+    goToWeek(2);
+    ASSERT_TRUE(Offers(*m_context).make(own, {clause, clause, wage, 1}));
+    m_dialogs.answer({true});
+    ASSERT_EQ(game::Contracts(*m_context).dismiss(own), game::Contracts::Dismissal::Dismissed);
+    EXPECT_EQ(count("selects"), 1);
+    m_dialogs.clear();
+
+    goToWeek(5);
+    EXPECT_EQ(Offers(*m_context).settleDue().signings, 1);
+    EXPECT_EQ(m_dialogs.texts(),
+              QStringList{QStringLiteral("Has Fichado a %1 del %2").arg(nameOf(own), clubName(85))});
+    EXPECT_EQ(clubOf(own), kClub);
+}
+
+struct Failure {
+    friend void PrintTo(const Failure &c, std::ostream *out) { *out << c.name; }
+    const char *name;
+    const char *trigger; // %1 the second player
+    bool firstSigned;    // the first signing written and told before the store is mended
+};
+
+class OfferFailure : public OffersTest, public ::testing::WithParamInterface<Failure>
+{};
+
+// Guards: a signing told with "Has Fichado a" that the store then lost or never wrote, one
+// failed answer undoing the others, or an offer whose answer failed left to wait until the
+// season's close (only offers of exactly three weeks ago were answered).
+TEST_P(OfferFailure, anAnswerIsToldOnlyOnceWrittenAndOneThatFailedIsGivenAtTheNextOpening)
+{
+    const int other = int(m_store->integer("select max(idjugador) from jugadores where idequipo = ?", kAbroad));
+    const int otherClause = int(m_store->integer("select Clausula_Recision from jugadores where idjugador = ?", other));
+    const int otherWage = int(m_store->integer("select Ficha from jugadores where idjugador = ?", other));
+    goToWeek(2);
+    Offers offers(*m_context);
+    ASSERT_TRUE(offers.make(m_player, askingTerms()));
+    ASSERT_TRUE(offers.make(other, {otherClause, otherClause, otherWage, 2}));
+    goToWeek(5);
+    ASSERT_TRUE(m_store->run([&] { m_store->execute(QString::fromUtf8(GetParam().trigger).arg(other).toStdString()); }).ok());
+
+    offers.settleDue();
+    const bool firstSigned = GetParam().firstSigned;
+    const QString first = QStringLiteral("Has Fichado a %1 del %2").arg(nameOf(m_player), clubName(kAbroad));
+    EXPECT_EQ(m_dialogs.texts().filter(QStringLiteral("Has Fichado")), firstSigned ? QStringList{first} : QStringList{});
+    EXPECT_EQ(clubOf(m_player), firstSigned ? kClub : kAbroad);
+    EXPECT_EQ(clubOf(other), kAbroad);
+    EXPECT_EQ(game::Ledger(*m_store).row(5)->fichajes, firstSigned ? m_clause : 0);
+    EXPECT_EQ(count("selects"), firstSigned ? 1 : 2);
+
+    // Mended, the next week answers what still waits, four weeks old.
+    ASSERT_TRUE(m_store->run([&] { m_store->execute("drop trigger broken"); }).ok());
+    goToWeek(6);
+    EXPECT_EQ(offers.settleDue().signings, firstSigned ? 1 : 2);
+    EXPECT_EQ(clubOf(m_player), kClub);
+    EXPECT_EQ(clubOf(other), kClub);
+    EXPECT_EQ(count("selects"), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Store, OfferFailure,
+    ::testing::Values(
+        // The second signing's move is refused: the first stands and is told, the second waits.
+        Failure{"oneSigningRefused",
+                "create temp trigger broken before update on jugadores when old.idjugador = %1"
+                " begin select raise(abort, 'database or disk is full'); end",
+                true},
+        // The disk takes the whole week's answers with it: nothing is told, everything waits.
+        Failure{"allAnswersLost",
+                "create temp trigger broken after insert on traspasos"
+                " begin select raise(rollback, 'database or disk is full'); end",
+                false}),
+    [](const auto &info) { return std::string(info.param.name); });
 
 // Guards: sums that overflow the game's money wrapping round into small or negative offers,
 // and a years box read as a number it does not hold.
