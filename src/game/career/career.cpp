@@ -185,13 +185,16 @@ bool Career::settleOrders()
 {
     if (m_stage != Stage::Verdict)
         return false;
-    SeasonClose(m_context).settleQueue();
+    // Orders that could not be settled stay, to be settled when the career is taken up again.
+    if (!SeasonClose(m_context).settleQueue())
+        return false;
     // The history keeps the budget the season left once its orders are paid.
     GameStore &store = m_context.store;
     const int season = m_season;
-    store.attempt([&] {
-        store.run([&] { sql::career::setHistoryBudget(store, season, sql::career::budgetOf(store, userClub(store))); });
-    });
+    const Result budget = store.run(
+        [&] { sql::career::setHistoryBudget(store, season, sql::career::budgetOf(store, userClub(store))); });
+    if (!budget)
+        m_context.dialogs.tell(budget.message(), Dialogs::Icon::Exclamation);
     m_verdict.reset();
     m_week.close();
     emit seasonClosed();
@@ -221,7 +224,9 @@ bool Career::goOn()
 void Career::setStage(Stage stage)
 {
     m_stage = stage;
-    writeStanding();
+    // Only for a career taken up from the working file as found; a save writes it again, so a
+    // failure here loses nothing.
+    static_cast<void>(writeStanding());
 }
 
 Result Career::writeStanding()
@@ -229,7 +234,7 @@ Result Career::writeStanding()
     // The working file says where the career stands, so that it can be taken up from the file
     // as found (a save is a copy of it).
     GameStore &store = m_context.store;
-    const sql::career::Standing standing{m_name, m_season, stageName(m_stage), m_week.eventsRun(),
+    const sql::career::Standing standing{m_name, m_season, stageName(m_stage), m_week.eventsDone(),
                                          m_week.broadcast().value_or(QString()), m_week.gatePosted()};
     return store.run([&] { sql::career::writeStanding(store, standing); });
 }
@@ -286,7 +291,7 @@ bool Career::resume()
     case Stage::Week:
     case Stage::Played:
     case Stage::SeasonOver:
-        m_week.reopen(standing.eventsRun,
+        m_week.reopen(standing.eventsDone,
                       standing.channel.isEmpty() ? std::nullopt : std::optional<QString>(standing.channel),
                       standing.gatePosted, stage == Stage::Played);
         break;

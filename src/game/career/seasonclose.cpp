@@ -104,7 +104,7 @@ SeasonClose::Verdict SeasonClose::verdict()
     return verdict;
 }
 
-int SeasonClose::settleQueue()
+std::optional<int> SeasonClose::settleQueue()
 {
     GameStore &store = m_context.store;
     int settled = 0;
@@ -134,13 +134,15 @@ int SeasonClose::settleQueue()
     });
     if (!done) {
         m_context.dialogs.tell(done.message(), Dialogs::Icon::Exclamation);
-        return 0;
+        return std::nullopt;
     }
     told.tellTo(m_context.dialogs);
     // The planner starts from an empty pre-season.
     const Result emptied = store.run([&] { sql::career::clearPreseason(store); });
-    if (!emptied)
+    if (!emptied) {
         m_context.dialogs.tell(emptied.message(), Dialogs::Icon::Exclamation);
+        return std::nullopt;
+    }
     return settled;
 }
 

@@ -52,7 +52,7 @@ public:
     // Every order still waiting is settled in the queue's order, works and offers as they
     // come, and the queue is emptied; the messages are told once it is all written. Then the
     // pre-season is emptied for the planner. Returns the orders settled.
-    int settleQueue();
+    std::optional<int> settleQueue();
 
 private:
     void writeHistory(const Verdict &verdict);

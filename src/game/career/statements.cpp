@@ -192,14 +192,14 @@ Standing standing(GameStore &store)
     Standing standing;
     GameStore::Query row = store.query("select carrera, temporada, etapa, eventos, canal, taquilla from partida");
     if (row.next())
-        standing = {row.text(0), row.integer(1), row.text(2), row.integer(3) != 0, row.text(4), row.integer(5) != 0};
+        standing = {row.text(0), row.integer(1), row.text(2), unsigned(row.integer(3)), row.text(4), row.integer(5) != 0};
     return standing;
 }
 
 void writeStanding(GameStore &store, const Standing &standing)
 {
     store.execute("update partida set carrera = ?, temporada = ?, etapa = ?, eventos = ?, canal = ?, taquilla = ?",
-                  standing.career, standing.season, standing.stage, standing.eventsRun ? 1 : 0, standing.channel,
+                  standing.career, standing.season, standing.stage, int(standing.eventsDone), standing.channel,
                   standing.gatePosted ? 1 : 0);
 }
 

@@ -79,7 +79,7 @@ struct Standing
     QString career;
     int season = 1;
     QString stage;
-    bool eventsRun = false;
+    unsigned eventsDone = 0; // the week's events that have run, a bit each in their order
     QString channel;   // a broadcast waiting for the player's OK
     bool gatePosted = false;
 };

@@ -78,7 +78,7 @@ bool Week::open()
     return true;
 }
 
-void Week::reopen(bool eventsRun, const std::optional<QString> &broadcast, bool gatePosted, bool played)
+void Week::reopen(unsigned eventsDone, const std::optional<QString> &broadcast, bool gatePosted, bool played)
 {
     close();
     GameStore &store = m_context.store;
@@ -90,8 +90,7 @@ void Week::reopen(bool eventsRun, const std::optional<QString> &broadcast, bool 
         if (!m_seasonOver)
             m_fixture = fixtureOfWeek(store, m_number, m_career.club);
     });
-    if (eventsRun)
-        m_done.set();
+    m_done = WeekEvents::Done(eventsDone);
     m_broadcast = broadcast;
     m_gatePosted = gatePosted;
     m_played = played;

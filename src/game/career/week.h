@@ -58,7 +58,7 @@ public:
     // Takes up the week the store has open, as a save left it, without writing anything:
     // whether its events have run, the broadcast waiting for the player's OK, whether its
     // gate is in the ledger, whether its match has been recorded.
-    void reopen(bool eventsRun, const std::optional<QString> &broadcast, bool gatePosted, bool played);
+    void reopen(unsigned eventsDone, const std::optional<QString> &broadcast, bool gatePosted, bool played);
 
     int number() const { return m_number; }
     bool isOpen() const { return m_number > 0; }
@@ -76,6 +76,8 @@ public:
     void runEvents();
     // Every step of the week's events has gone through.
     bool eventsRun() const { return m_done.all(); }
+    // The events that have run, a bit each in their order, for a save.
+    unsigned eventsDone() const { return unsigned(m_done.to_ulong()); }
     bool eventsRunning() const { return m_eventsRunning; }
     bool stepDone(WeekEvents::Step step) const;
 

@@ -204,9 +204,21 @@ TEST_F(CareerLife, aSeasonThatCouldNotCloseClosesOnceWhenTakenUpAgain)
     EXPECT_EQ(m_store->integer("select count(distinct puesto_anterior) from asobal"), 16);
     EXPECT_EQ(m_store->integer("select sum(Puntos) from asobal"), 0);
 
+    // Orders that cannot be settled stay for the next try, never carried into the new season.
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("insert into selects (\"select\", jornada, oferta, clausula, ficha, jugador, observaciones,"
+                         " pago) values ('', 30, 0, 0, 0, 0, 'tienda 0 90000 7', '')");
+    }).ok());
+    breakWrites("selects", "delete");
+    EXPECT_FALSE(career.goOn());
+    EXPECT_EQ(career.stage(), Career::Stage::Verdict);
+    EXPECT_EQ(count("selects"), 1);
+    mendWrites();
+
     // Taken up once more, the career settles the orders and plans the next pre-season.
     ASSERT_TRUE(career.goOn());
     EXPECT_EQ(verdicts, 1);
+    EXPECT_EQ(count("selects"), 0);
     EXPECT_EQ(career.stage(), Career::Stage::Planning);
 }
 
