@@ -8,8 +8,9 @@ namespace ui {
 
 namespace {
 
-// The cells of a grid repeat themselves (a position, a nationality, an age), and measuring one
-// lays its text out: each text is measured once, and its size kept for the grid's font.
+// The cells of the grids repeat themselves (a position, a nationality, an age, the same players
+// each time a list is opened), and measuring one lays its text out: each text is measured once
+// in the grids' font, and its size kept for every grid of the game.
 class MeasuredOnce : public QStyledItemDelegate
 {
 public:
@@ -17,20 +18,18 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        if (option.font != m_font) {
-            m_sizes.clear();
-            m_font = option.font;
+        static QFont font;
+        static QHash<QString, QSize> sizes;
+        if (option.font != font) {
+            sizes.clear();
+            font = option.font;
         }
         const QString text = index.data().toString();
-        auto known = m_sizes.constFind(text);
-        if (known == m_sizes.constEnd())
-            known = m_sizes.insert(text, QStyledItemDelegate::sizeHint(option, index));
+        auto known = sizes.constFind(text);
+        if (known == sizes.constEnd())
+            known = sizes.insert(text, QStyledItemDelegate::sizeHint(option, index));
         return *known;
     }
-
-private:
-    mutable QFont m_font;
-    mutable QHash<QString, QSize> m_sizes;
 };
 
 } // namespace
