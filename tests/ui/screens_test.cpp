@@ -3,21 +3,8 @@
 #include "career/newcareer.h"
 #include "screenfixture.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
-#include <QDialog>
-#include <QDir>
-#include <QEnterEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QPainter>
-#include <QScrollBar>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTextBrowser>
-#include <QTimer>
 #include <QToolButton>
 
 namespace {
