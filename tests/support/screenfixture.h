@@ -312,8 +312,8 @@ protected:
 
     // What the player sees of a screen is whole: the window keeps its size, every label is
     // plain text, every grid shows its columns whole without scrolling sideways, and every
-    // label, button, box and list on show lies inside the window with its whole text, none of
-    // them over another.
+    // label, button, box, bar and list on show lies inside the window with its whole text, none
+    // of them over another.
     void expectTidy(const QString &step, QWidget *screen = nullptr)
     {
         screen = screen ? screen : m_navigator->current();
@@ -342,7 +342,8 @@ protected:
         for (QWidget *widget : screen->findChildren<QWidget *>()) {
             if (widget->isVisible() && !insideAView(widget)
                 && (qobject_cast<QLabel *>(widget) || qobject_cast<QAbstractButton *>(widget)
-                    || qobject_cast<QLineEdit *>(widget) || qobject_cast<QAbstractItemView *>(widget)))
+                    || qobject_cast<QLineEdit *>(widget) || qobject_cast<QAbstractItemView *>(widget)
+                    || qobject_cast<QComboBox *>(widget) || qobject_cast<QScrollBar *>(widget)))
                 shown << widget;
         }
         EXPECT_GE(shown.size(), 6) << at << "the screen's own widgets, not an empty shell";

@@ -87,6 +87,8 @@ TEST_F(Frames, everyPageHasItsTitleHeadingAndWayBackAndEscapeLeavesIt)
     settle();
     ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Pretemporada"));
     EXPECT_EQ(find<QPushButton>(QStringLiteral("cmdVOLVER"))->text(), QStringLiteral("VOLVER"));
+    chooseClub("cmdFrancia", 0);
+    expectTidy(QStringLiteral("Pretemporada"));
     QTest::keyClick(m_navigator->current(), Qt::Key_Escape);
     settle();
     EXPECT_EQ(m_navigator->current()->objectName(), QStringLiteral("Form1"));

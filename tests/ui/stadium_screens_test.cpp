@@ -325,6 +325,13 @@ TEST_F(StadiumScreens, aTickClearsTheRestOfItsChoiceAndReestablecerClearsEveryth
     click(QStringLiteral("cmdTienda"));
     click(box(21));
     EXPECT_EQ(ticked(), (std::set<int>{2, 5, 6, 21}));
+    // The first service of all clears the others too.
+    click(QStringLiteral("cmdEnfermería"));
+    click(box(17));
+    EXPECT_EQ(ticked(), (std::set<int>{2, 5, 6, 17}));
+    click(QStringLiteral("cmdTienda"));
+    click(box(21));
+    EXPECT_EQ(ticked(), (std::set<int>{2, 5, 6, 21}));
     click(QStringLiteral("cmdEquipamiento"));
     click(QStringLiteral("cmdCalefaccion"));
     click(box(9));
