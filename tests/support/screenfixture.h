@@ -1,20 +1,30 @@
 #pragma once
 
+#include "career/weekpanel.h"
+#include "common/elidedlabel.h"
+#include "common/indexedlabel.h"
+#include "match/matchscreen.h"
 #include "navigator.h"
 #include "tempstore.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QEnterEvent>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <string>
@@ -190,6 +200,180 @@ protected:
         type(QStringLiteral("txtApellidos"), QStringLiteral("Ruiz"));
         QTest::mouseClick(find(crest), Qt::LeftButton);
         click(QStringLiteral("cmdSeguir"));
+    }
+
+    // A new career with the club of that crest, every friendly declined, on the panel of its
+    // first week, a league round; the week's events run as the panel's timer would run them.
+    void reachFirstLeagueWeek(const QString &crest = QStringLiteral("IValencia"))
+    {
+        startCareerFromMenu(crest);
+        for (int slot = 0; slot < 5; ++slot)
+            click(QStringLiteral("cmdNoJugar"));
+        click(QStringLiteral("cmdSeguir"));
+        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+        runWeekEvents();
+    }
+
+    void runWeekEvents()
+    {
+        m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager"))->runWeekEvents();
+        settle();
+    }
+
+    // On the call-up: the player of a grid row (any cell of it will do) to a place of the list.
+    void placeRow(int gridRow, int place)
+    {
+        auto *grid = find<QTableView>(QStringLiteral("DataGrid1"));
+        grid->setCurrentIndex(grid->model()->index(gridRow, 2));
+        find<QListWidget>(QStringLiteral("list1"))->setCurrentRow(place);
+        click(QStringLiteral("cmdAñadir"));
+    }
+
+    void callUpFirstFourteen()
+    {
+        ASSERT_GE(find<QTableView>(QStringLiteral("DataGrid1"))->model()->rowCount(), 14);
+        for (int place = 0; place < 14; ++place)
+            placeRow(place, place);
+    }
+
+    ui::MatchScreen *match() { return m_navigator->screen<ui::MatchScreen>(QStringLiteral("partido")); }
+
+    // A half of the match on screen, from its kick-off to its whistle, tick by tick.
+    void playHalf()
+    {
+        click(QStringLiteral("cmdStart"));
+        for (int guard = 0; guard < 1000 && match()->engine().running(); ++guard)
+            match()->tick();
+        settle();
+    }
+
+    // The week's match from the panel: the call-up (the first fourteen, when asked), both halves
+    // and "SALIR"; then the next week's events, a broadcast taken.
+    void playTheWeek(bool callUp)
+    {
+        click(QStringLiteral("cmdSeguir"));
+        if (callUp)
+            callUpFirstFourteen();
+        click(QStringLiteral("cmdJugar"));
+        ASSERT_NE(match(), nullptr) << m_dialogs.texts().join(QLatin1Char('|')).toStdString();
+        playHalf();
+        playHalf();
+        click(QStringLiteral("cmdSalir"));
+        settle();
+        runWeekEvents();
+        if (m_navigator->screen(QStringLiteral("Tele")))
+            click(QStringLiteral("cmdOK"));
+    }
+
+    // On the planner: a country's flag, then a club of its list by row.
+    void chooseClub(const char *country, int row)
+    {
+        click(QString::fromUtf8(country));
+        auto *list = find<QListWidget>(QStringLiteral("DataList1"));
+        ASSERT_NE(list, nullptr);
+        ASSERT_GT(list->count(), row);
+        QListWidgetItem *item = list->item(row);
+        list->setCurrentItem(item);
+        emit list->itemClicked(item);
+        settle();
+    }
+
+    // Writes in a box as the player does: what is there is selected and typed over, and the
+    // box is left.
+    void fill(const QString &name, const QString &text)
+    {
+        auto *box = find<QLineEdit>(name);
+        ASSERT_NE(box, nullptr) << name.toStdString();
+        box->setFocus();
+        box->selectAll();
+        if (text.isEmpty())
+            QTest::keyClick(box, Qt::Key_Backspace);
+        else
+            type(name, text);
+        QFocusEvent leaving(QEvent::FocusOut, Qt::TabFocusReason);
+        QApplication::sendEvent(box, &leaving);
+    }
+
+    // The text of a box or a label of the game, or a note that it is missing.
+    QString text(const QString &name)
+    {
+        if (auto *box = find<QLineEdit>(name))
+            return box->text();
+        auto *label = find<QLabel>(name);
+        return label ? label->text() : QStringLiteral("<no %1>").arg(name);
+    }
+
+    // Whether a label on show on the current screen reads so.
+    bool shows(const QString &text)
+    {
+        for (QLabel *label : m_navigator->current()->findChildren<QLabel *>()) {
+            if (label->text() == text && label->isVisible())
+                return true;
+        }
+        return false;
+    }
+
+    // What the player sees of a screen is whole: the window keeps its size, every label is
+    // plain text, every grid shows its columns whole without scrolling sideways, and every
+    // label, button, box, bar and list on show lies inside the window with its whole text, none
+    // of them over another.
+    void expectTidy(const QString &step, QWidget *screen = nullptr)
+    {
+        screen = screen ? screen : m_navigator->current();
+        const std::string at = step.toStdString() + ": ";
+        EXPECT_EQ(m_window->size(), QSize(1280, 720)) << at;
+        for (QLabel *label : screen->findChildren<QLabel *>())
+            EXPECT_EQ(label->textFormat(), Qt::PlainText) << at << label->text().toStdString();
+        for (QTableView *grid : screen->findChildren<QTableView *>()) {
+            if (!grid->isVisible())
+                continue;
+            EXPECT_EQ(grid->horizontalScrollBar()->maximum(), 0) << at << grid->objectName().toStdString();
+            for (int column = 0; column < grid->model()->columnCount(); ++column) {
+                if (!grid->isColumnHidden(column))
+                    EXPECT_GE(grid->columnWidth(column), grid->horizontalHeader()->sectionSizeHint(column))
+                        << at << grid->objectName().toStdString() << " column " << column;
+            }
+        }
+        auto insideAView = [screen](QWidget *widget) {
+            for (QWidget *above = widget->parentWidget(); above && above != screen; above = above->parentWidget()) {
+                if (qobject_cast<QAbstractItemView *>(above))
+                    return true;
+            }
+            return false;
+        };
+        QList<QWidget *> shown;
+        for (QWidget *widget : screen->findChildren<QWidget *>()) {
+            if (widget->isVisible() && !insideAView(widget)
+                && (qobject_cast<QLabel *>(widget) || qobject_cast<QAbstractButton *>(widget)
+                    || qobject_cast<QLineEdit *>(widget) || qobject_cast<QAbstractItemView *>(widget)
+                    || qobject_cast<QComboBox *>(widget) || qobject_cast<QScrollBar *>(widget)))
+                shown << widget;
+        }
+        EXPECT_GE(shown.size(), 6) << at << "the screen's own widgets, not an empty shell";
+        const QRect window = screen->isWindow() ? screen->rect() : m_window->rect();
+        auto area = [screen](QWidget *widget) {
+            return QRect(widget->mapTo(screen->window(), QPoint(0, 0)), widget->size());
+        };
+        for (int i = 0; i < shown.size(); ++i) {
+            QWidget *widget = shown[i];
+            auto *label = qobject_cast<QLabel *>(widget);
+            const std::string name = at + widget->objectName().toStdString() + " '"
+                + (label ? label->text().toStdString() : std::string()) + "'";
+            EXPECT_TRUE(window.contains(area(widget))) << name;
+            if (label && label->wordWrap()) {
+                EXPECT_GE(widget->height(), label->heightForWidth(widget->width())) << name;
+            } else if ((label && !dynamic_cast<ui::ElidedLabel *>(widget)) || qobject_cast<QAbstractButton *>(widget)) {
+                EXPECT_TRUE(widget->width() >= widget->sizeHint().width()
+                            && widget->height() >= widget->sizeHint().height())
+                    << name << " is cut: " << widget->width() << 'x' << widget->height();
+            }
+            for (int j = i + 1; j < shown.size(); ++j) {
+                QWidget *other = shown[j];
+                if (!widget->isAncestorOf(other) && !other->isAncestorOf(widget))
+                    EXPECT_FALSE(area(widget).intersects(area(other))) << name << " covers "
+                                                                       << other->objectName().toStdString();
+            }
+        }
     }
 
     std::unique_ptr<QMainWindow> m_window;

@@ -1,51 +1,27 @@
 // Match day as the player lives it: the call-up, the tactics, the live match and the way out.
 
-#include "career/weekpanel.h"
-#include "common/indexedlabel.h"
-#include "match/matchscreen.h"
 #include "screenfixture.h"
-
-#include <QComboBox>
-#include <QListWidget>
-#include <QTableView>
 
 class MatchScreens : public ScreenTest
 {
 protected:
-    // A new career with Valencia, every friendly declined: week 1 is the first league round.
-    void reachFirstLeagueWeek(const QString &crest = QStringLiteral("IValencia"))
+    // A new career, every friendly declined, on week 1, a league round: its events run, their
+    // messages read, and a broadcast taken.
+    void reachMatchWeek(const QString &crest = QStringLiteral("IValencia"))
     {
-        startCareerFromMenu(crest);
-        for (int slot = 0; slot < 5; ++slot)
-            click(QStringLiteral("cmdNoJugar"));
-        click(QStringLiteral("cmdSeguir"));
-        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
-        runTheWeeksEvents();
+        reachFirstLeagueWeek(crest);
+        takeTheWeeksNews();
     }
 
-    // The panel's first tick: the week's events, their messages read, and a broadcast taken.
-    void runTheWeeksEvents()
+    void takeTheWeeksNews()
     {
-        m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager"))->runWeekEvents();
-        settle();
         EXPECT_TRUE(m_dialogs.texts().contains(QStringLiteral("Cargando... Pulse Aceptar para continuar")));
         if (m_navigator->screen(QStringLiteral("Tele")))
             click(QStringLiteral("cmdOK"));
         m_dialogs.clear();
     }
 
-    // Picks the grid row of a player and a place of the list, and presses "Añadir".
-    void placeRow(int gridRow, int place)
-    {
-        auto *grid = find<QTableView>(QStringLiteral("DataGrid1"));
-        grid->setCurrentIndex(grid->model()->index(gridRow, 2)); // any cell of the row will do
-        find<QListWidget>(QStringLiteral("list1"))->setCurrentRow(place);
-        click(QStringLiteral("cmdAñadir"));
-    }
-
     QString placeText(int place) { return find<QListWidget>(QStringLiteral("list1"))->item(place)->text(); }
-
-    ui::MatchScreen *match() { return m_navigator->screen<ui::MatchScreen>(QStringLiteral("partido")); }
 
     QString entry(const char *row, int index)
     {
@@ -55,10 +31,9 @@ protected:
     // Week 1's league match, the first fourteen of the grid called up, played to full time.
     void playFirstLeagueMatchToFullTime(const QString &crest = QStringLiteral("IValencia"))
     {
-        reachFirstLeagueWeek(crest);
+        reachMatchWeek(crest);
         click(QStringLiteral("cmdSeguir"));
-        for (int place = 0; place < 14; ++place)
-            placeRow(place, place);
+        callUpFirstFourteen();
         playCalledUpMatch();
     }
 
@@ -71,20 +46,12 @@ protected:
         playHalf();
         playHalf();
     }
-
-    void playHalf()
-    {
-        click(QStringLiteral("cmdStart"));
-        for (int guard = 0; guard < 1000 && match()->engine().running(); ++guard)
-            match()->tick();
-        settle();
-    }
 };
 
 // Guards: the whole way through a match day, from the call-up to the next week's panel.
 TEST_F(MatchScreens, aMatchIsCalledUpPlayedChangedAndLeftForTheNextWeek)
 {
-    reachFirstLeagueWeek();
+    reachMatchWeek();
     EXPECT_EQ(count("jugar"), 7);
     const int matchId = m_navigator->career().week().fixture()->idpartido;
 
@@ -236,7 +203,7 @@ TEST_F(MatchScreens, aResultThatCannotBeWrittenKeepsTheWeekOpen)
 // with only another place chosen places nobody instead of moving the same player.
 TEST_F(MatchScreens, thePickedPlayerStaysPickedToBeMovedOnWithASecondPress)
 {
-    reachFirstLeagueWeek();
+    reachMatchWeek();
     click(QStringLiteral("cmdSeguir"));
     ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Alinear"));
     auto *grid = find<QTableView>(QStringLiteral("DataGrid1"));
@@ -296,25 +263,19 @@ TEST_F(MatchScreens, aHomeMatchPlayedAgainAfterAFailedResultPaysItsGateOnce)
 TEST_F(MatchScreens, anAwayFriendlyAbroadShowsTheWholeCrowdBox)
 {
     startCareerFromMenu(QStringLiteral("IValencia"));
-    click(QStringLiteral("cmdAlemania"));
-    auto *clubs = find<QListWidget>(QStringLiteral("DataList1"));
-    ASSERT_NE(clubs, nullptr);
-    ASSERT_GT(clubs->count(), 0);
-    clubs->setCurrentRow(0);
-    emit clubs->itemClicked(clubs->item(0));
-    settle();
+    chooseClub("cmdAlemania", 0);
     for (int slot = 1; slot < 5; ++slot)
         click(QStringLiteral("cmdNoJugar"));
     click(QStringLiteral("cmdSeguir"));
     ASSERT_EQ(find<QLabel>(QStringLiteral("Tipo"))->text(), QStringLiteral("AMISTOSO"));
     const int home = m_navigator->career().week().fixture()->homeId;
     ASSERT_EQ(m_store->integer("select count(*) from estadios where idequipo = ?", home), 0);
-    runTheWeeksEvents();
+    runWeekEvents();
+    takeTheWeeksNews();
     const QString ledger = dump("caja");
 
     click(QStringLiteral("cmdSeguir"));
-    for (int place = 0; place < 14; ++place)
-        placeRow(place, place);
+    callUpFirstFourteen();
     click(QStringLiteral("cmdJugar"));
     ASSERT_NE(match(), nullptr);
     auto text = [&](const char *name) { return find<QLabel>(QString::fromLatin1(name))->text(); };

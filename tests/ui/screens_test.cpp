@@ -3,21 +3,8 @@
 #include "career/newcareer.h"
 #include "screenfixture.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
-#include <QDialog>
-#include <QDir>
-#include <QEnterEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QPainter>
-#include <QScrollBar>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTextBrowser>
-#include <QTimer>
 #include <QToolButton>
 
 namespace {
@@ -166,6 +153,7 @@ TEST_F(Screens, aYouthIsAddedFromTheMenuAndTheFormIsReadyForTheNext)
     EXPECT_EQ(find<QScrollBar>(QStringLiteral("HScroll2"))->value(), 23);
     QTest::keyClicks(dorsal, QStringLiteral("x"));
     EXPECT_EQ(dorsal->text(), QStringLiteral("23")); // the box takes digits only
+    expectTidy(QStringLiteral("add youth"), screen);
     screenshot(QStringLiteral("add_youth"), screen);
 
     m_dialogs.clear();

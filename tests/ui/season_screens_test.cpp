@@ -2,17 +2,13 @@
 // the verdict at the season's close.
 
 #include "career/seasonclose.h"
-#include "career/weekpanel.h"
 #include "common/artwork.h"
-#include "common/indexedlabel.h"
 #include "reports/verdictscreen.h"
 #include "screenfixture.h"
 
 #include <QKeyEvent>
 
-#include <algorithm>
 #include <functional>
-#include <vector>
 
 namespace {
 
@@ -30,18 +26,6 @@ QColor backgroundOf(QLabel *label)
 class SeasonScreens : public ScreenTest
 {
 protected:
-    // A new career with Valencia, every friendly declined: week 1 is the first league round.
-    void reachFirstLeagueWeek()
-    {
-        startCareerFromMenu(QStringLiteral("IValencia"));
-        for (int slot = 0; slot < 5; ++slot)
-            click(QStringLiteral("cmdNoJugar"));
-        click(QStringLiteral("cmdSeguir"));
-        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
-        m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager"))->runWeekEvents();
-        settle();
-    }
-
     int userClub() { return int(m_store->integer("select idequipo from datos_jugador")); }
     QString clubName(int club) { return m_store->text("select NombreEquipo from equipos where idequipo = ?", club); }
 
@@ -50,20 +34,6 @@ protected:
     QLabel *cell(const char *name, int index)
     {
         return indexed::find(m_navigator->current(), QString::fromLatin1(name), index);
-    }
-
-    // Every label of the screen shows plain text and lies wholly inside the window.
-    void expectPlainAndInside(QWidget *screen)
-    {
-        const QRect window = m_window->rect();
-        for (QLabel *label : screen->findChildren<QLabel *>()) {
-            EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
-            if (label->isVisible()) {
-                EXPECT_TRUE(window.contains(QRect(label->mapTo(m_window.get(), QPoint(0, 0)), label->size())))
-                    << label->objectName().toStdString() << " " << label->text().toStdString();
-            }
-        }
-        EXPECT_EQ(m_window->size(), QSize(1280, 720));
     }
 
     // The matches of a round as the template places the clubs: home and away names, in order.
@@ -141,9 +111,6 @@ TEST_F(SeasonScreens, theTableOrdersByPointsThenFewestAgainstAndWritesThePlaces)
             order.push_back(club);
     }
 
-    auto *button = find<QPushButton>(QStringLiteral("cmdClasificacion"));
-    ASSERT_NE(button, nullptr);
-    EXPECT_TRUE(button->isEnabled());
     click(QStringLiteral("cmdClasificacion"));
     ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Clasificacion"));
     QWidget *table = m_navigator->current();
@@ -151,7 +118,7 @@ TEST_F(SeasonScreens, theTableOrdersByPointsThenFewestAgainstAndWritesThePlaces)
     QStringList captions;
     for (QLabel *label : table->findChildren<QLabel *>())
         captions << label->text();
-    for (const char *header : {"LA CLASIFICACIÓN", "POS", "EQUIPO", "PJ", "PG", "PE", "PP", "G F", "G C", "Ptos"})
+    for (const char *header : {"POS", "EQUIPO", "PJ", "PG", "PE", "PP", "G F", "G C", "Ptos"})
         EXPECT_TRUE(captions.contains(QString::fromUtf8(header))) << header;
 
     for (int place = 0; place < 16; ++place) {
@@ -172,7 +139,7 @@ TEST_F(SeasonScreens, theTableOrdersByPointsThenFewestAgainstAndWritesThePlaces)
     // The user's club is the one row that stands out.
     for (int place = 0; place < 16; ++place)
         EXPECT_EQ(backgroundOf(cell("lblEquipo", place)) == kUserTable, place == 2) << place;
-    expectPlainAndInside(table);
+    expectTidy(QStringLiteral("table"));
     screenshot(QStringLiteral("standings"));
 
     click(QStringLiteral("cmdVOLVER"));
@@ -230,10 +197,9 @@ TEST_F(SeasonScreens, theRoundsOpenOnTheCurrentOneStepWithinTheSeasonAndHighligh
     QStringList captions;
     for (QLabel *label : rounds->findChildren<QLabel *>())
         captions << label->text();
-    for (const char *caption : {"RESULTADOS ASOBAL", "LIGA - ASOBAL", "PARTIDOS DE LA JORNADA"})
+    for (const char *caption : {"LIGA - ASOBAL", "PARTIDOS DE LA JORNADA"})
         EXPECT_TRUE(captions.contains(QString::fromLatin1(caption))) << caption;
-    EXPECT_EQ(rounds->windowTitle(), QStringLiteral("Resultados"));
-    expectPlainAndInside(rounds);
+    expectTidy(QStringLiteral("rounds"));
     screenshot(QStringLiteral("rounds"));
 
     // Forward to the last round and a click beyond it; every round not played shows no score,
@@ -307,14 +273,11 @@ TEST_F(SeasonScreens, theVerdictNamesTheChampionTheBottomTwoAndTheUsersStoredPla
         EXPECT_EQ(text("Compra2"), text("uno")) << c.what;
         EXPECT_EQ(text("pos"), QString::fromLatin1(c.place)) << c.what;
         QStringList captions;
-        for (QLabel *label : verdict.findChildren<QLabel *>()) {
+        for (QLabel *label : verdict.findChildren<QLabel *>())
             captions << label->text();
-            EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
-        }
         for (const char *caption : {"CAMPEÓN DE LA LIGA ASOBAL", "Desciende:", "Compra Plaza:", "Posición Alcanzada:"})
             EXPECT_TRUE(captions.contains(QString::fromUtf8(caption))) << caption;
-        EXPECT_LE(verdict.width(), 1280);
-        EXPECT_LE(verdict.height(), 720);
+        expectTidy(QString::fromUtf8(c.what), &verdict);
         if (c.champion == user)
             screenshot(QStringLiteral("verdict"), &verdict);
 

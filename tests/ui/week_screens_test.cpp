@@ -1,28 +1,12 @@
 // From a new career through the pre-season to the first week: panel, ledger and calendar.
 
-#include "career/weekpanel.h"
-#include "common/indexedlabel.h"
 #include "screenfixture.h"
 
-#include <QListWidget>
 #include <QToolButton>
 
 class WeekScreens : public ScreenTest
 {
 protected:
-    // Chooses a country on the planner and a club of its list by row.
-    void chooseClub(const char *country, int row)
-    {
-        click(QString::fromUtf8(country));
-        auto *list = find<QListWidget>(QStringLiteral("DataList1"));
-        ASSERT_NE(list, nullptr);
-        ASSERT_GT(list->count(), row);
-        QListWidgetItem *item = list->item(row);
-        list->setCurrentItem(item);
-        emit list->itemClicked(item);
-        settle();
-    }
-
     QString slotText(const char *name, int slot)
     {
         return indexed::find(find(QStringLiteral("Pretemporada")), QString::fromLatin1(name), slot)->text();
@@ -66,6 +50,9 @@ TEST_F(WeekScreens, aPlannedSeasonOpensWeekOneWithItsFixtureLedgerAndCalendar)
 
     click(QStringLiteral("cmdSeguir"));
     ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+    // The week's events wait for the panel's timer; the ledger is read before they run, however
+    // long this test takes.
+    m_navigator->current()->findChild<QTimer *>(QStringLiteral("Timer1"))->stop();
     EXPECT_EQ(count("calendario"), 34);
     EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("1"));
     EXPECT_EQ(find<QLabel>(QStringLiteral("Tipo"))->text(), QStringLiteral("AMISTOSO"));
@@ -122,14 +109,9 @@ TEST_F(WeekScreens, aPlannedSeasonOpensWeekOneWithItsFixtureLedgerAndCalendar)
                                               " (select idpartido from calendario where semana = ?)",
                                               row + 1))
             << row;
-        // The last row is on the screen, not cut off below it.
-        EXPECT_TRUE(date->isVisible()) << row;
-        EXPECT_TRUE(m_window->rect().contains(QRect(date->mapTo(m_window.get(), QPoint(0, 0)), date->size()))) << row;
     }
     EXPECT_EQ(indexed::find(calendar, QStringLiteral("lblEquiposHoy"), 7), nullptr); // seven weeks, no more
-    for (QLabel *label : calendar->findChildren<QLabel *>())
-        EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
-    EXPECT_EQ(m_window->size(), QSize(1280, 720)); // no screen makes the window grow
+    expectTidy(QStringLiteral("calendar"));
     screenshot(QStringLiteral("calendar"));
     click(QStringLiteral("cmdVOLVER"));
     EXPECT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
@@ -145,7 +127,7 @@ TEST_F(WeekScreens, leavingTheCareerRestoresTheFileAndANewCareerGetsAFreshPanel)
     ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
     EXPECT_EQ(find<QLabel>(QStringLiteral("Tipo"))->text(), QStringLiteral("LIGA"));
     click(QStringLiteral("c"));
-    m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager"))->runWeekEvents();
+    runWeekEvents();
 
     click(QStringLiteral("cmdVOLVER"));
     m_dialogs.answer({true}); // "¿Salir de la partida? ..." Yes

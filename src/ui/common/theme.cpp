@@ -58,12 +58,34 @@ QLabel *label(const char *role, const QString &text, QWidget *parent)
     return label;
 }
 
+namespace {
+
+class StyledList : public QListWidget
+{
+public:
+    using QListWidget::QListWidget;
+
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        if (!m_shown) {
+            m_shown = true;
+            scheduleDelayedItemsLayout();
+        }
+        QListWidget::showEvent(event);
+    }
+
+private:
+    bool m_shown = false;
+};
+
+} // namespace
+
 QListWidget *list(const char *name, const char *role, QWidget *parent)
 {
-    auto *list = new QListWidget(parent);
+    auto *list = new StyledList(parent);
     list->setObjectName(QString::fromLatin1(name));
     list->setProperty("role", QString::fromLatin1(role));
-    list->ensurePolished();
     return list;
 }
 

@@ -41,9 +41,9 @@ QLabel *heading(const QString &text, QWidget *parent = nullptr);
 // and the screen's own button keeps the amber.
 QPushButton *backButton(QWidget *parent = nullptr);
 
-// A list of the sheet's role ("places", "positions", "clubs", "search"). It is polished at once:
-// a list measures its lines as it is filled, and would otherwise measure them before the sheet
-// has been applied to it.
+// A list of the sheet's role ("places", "positions", "clubs", "search"). A list may measure its
+// lines before the sheet has been applied to it (a screen filled before it is shown); it
+// measures them again when it first shows.
 QListWidget *list(const char *name, const char *role, QWidget *parent = nullptr);
 
 // Sets a property the sheet selects on, such as a row that becomes the user's, and has the

@@ -1,13 +1,12 @@
 #include "callupscreen.h"
 
-#include "common/gridstyle.h"
+#include "common/grid.h"
 #include "common/theme.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -31,10 +30,8 @@ CallUpScreen::CallUpScreen(game::Context context, QWidget *parent)
       m_context(context), m_callUp(context)
 {
     m_players = new RowsModel<game::CallUp::Player>(squadColumns(), this);
-    m_grid = new QTableView;
-    m_grid->setObjectName(QStringLiteral("DataGrid1"));
+    m_grid = new Grid("DataGrid1", this);
     m_grid->setModel(m_players);
-    styleGrid(m_grid);
 
     m_places = theme::list("list1", "places");
 
@@ -80,7 +77,7 @@ void CallUpScreen::reload()
                                      [pickedId](const game::CallUp::Player &player) { return player.id == pickedId; });
     const int pickedRow = picked == squad.end() ? -1 : int(picked - squad.begin());
     m_players->setRows(std::move(squad));
-    m_grid->resizeColumnsToContents();
+    m_grid->fitColumns();
     if (pickedRow >= 0)
         m_grid->setCurrentIndex(m_players->index(pickedRow, pickedColumn));
 

@@ -6,9 +6,10 @@
 #include "match/callup.h"
 
 class QListWidget;
-class QTableView;
 
 namespace ui {
+
+class Grid;
 
 // The columns of a grid of the club's players as the call-up and the tactics show them.
 std::vector<RowsModel<game::CallUp::Player>::Column> squadColumns();
@@ -36,7 +37,7 @@ private:
     game::Context m_context;
     game::CallUp m_callUp;
     RowsModel<game::CallUp::Player> *m_players;
-    QTableView *m_grid;
+    Grid *m_grid;
     QListWidget *m_places;
 };
 

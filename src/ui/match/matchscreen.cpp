@@ -27,12 +27,10 @@ namespace ui {
 class Commentary : public QListWidget
 {
 public:
-    Commentary()
+    explicit Commentary(QWidget *parent) : QListWidget(parent)
     {
         setObjectName(QStringLiteral("list2"));
         setProperty("role", QStringLiteral("commentary"));
-        // Measured in the sheet's terms from the first line on.
-        ensurePolished();
     }
 
     void addLine(const QString &text, const QColor &colour)
@@ -40,6 +38,24 @@ public:
         auto *item = new QListWidgetItem(text);
         item->setForeground(colour);
         insertItem(0, item);
+        // A line that comes before the list wears the sheet is measured when it first shows.
+        if (testAttribute(Qt::WA_WState_Polished))
+            measure(item);
+    }
+
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        for (int row = 0; row < count(); ++row) {
+            if (!item(row)->sizeHint().isValid())
+                measure(item(row));
+        }
+        QListWidget::showEvent(event);
+    }
+
+private:
+    void measure(QListWidgetItem *item)
+    {
         QStyleOptionViewItem option;
         initViewItemOption(&option);
         const QModelIndex index = indexFromItem(item);
@@ -134,8 +150,8 @@ MatchScreen::~MatchScreen() = default;
 
 QWidget *MatchScreen::buildScoreboard()
 {
-    auto *board = new QWidget;
-    board->setProperty("role", QStringLiteral("scoreboard"));
+    auto *board = new QWidget(this);
+    board->setObjectName(QStringLiteral("marcador"));
     QLabel *home = sideLabel("lblEquipoLoc", 0);
     setNamed(home, m_fixture.homeName);
     home->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -167,7 +183,7 @@ QWidget *MatchScreen::buildScoreboard()
 
 QWidget *MatchScreen::buildRows()
 {
-    auto *box = new QWidget;
+    auto *box = new QWidget(this);
     auto *grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(3);
@@ -207,7 +223,7 @@ QWidget *MatchScreen::buildRows()
 
 QWidget *MatchScreen::buildSide()
 {
-    auto *side = new QWidget;
+    auto *side = new QWidget(this);
     auto *layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
@@ -229,7 +245,7 @@ QWidget *MatchScreen::buildSide()
     }
     layout->addLayout(stats);
 
-    auto *gate = new QGroupBox(tr("Aforo"));
+    auto *gate = new QGroupBox(tr("Aforo"), side);
     gate->setObjectName(QStringLiteral("Aforo"));
     auto *gateGrid = new QGridLayout(gate);
     gateGrid->setVerticalSpacing(2);
@@ -260,7 +276,7 @@ QWidget *MatchScreen::buildSide()
     choices->addWidget(thrower, 1, 1);
     layout->addLayout(choices);
 
-    m_commentary = new Commentary;
+    m_commentary = new Commentary(side);
     layout->addWidget(m_commentary, 1);
 
     m_start = new QPushButton(tr("JUGAR"));

@@ -2,7 +2,7 @@
 
 #include "callupscreen.h"
 #include "common/artwork.h"
-#include "common/gridstyle.h"
+#include "common/grid.h"
 #include "common/plainlabel.h"
 #include "common/theme.h"
 #include "match/tactics.h"
@@ -12,7 +12,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
-#include <QTableView>
 #include <QVBoxLayout>
 
 namespace ui {
@@ -60,11 +59,9 @@ TacticsScreen::TacticsScreen(game::Context context, QWidget *parent)
         thrower->addItem(player.apellidos);
     auto *players = new RowsModel<game::CallUp::Player>(squadColumns(), this);
     players->setRows(std::move(squad));
-    auto *grid = new QTableView;
-    grid->setObjectName(QStringLiteral("DataGrid1"));
+    auto *grid = new Grid("DataGrid1", this);
     grid->setModel(players);
-    styleGrid(grid);
-    grid->resizeColumnsToContents();
+    grid->fitColumns();
 
     auto *systems = new QGridLayout;
     systems->setHorizontalSpacing(40);

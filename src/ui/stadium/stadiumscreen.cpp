@@ -129,9 +129,9 @@ QPushButton *button(const QString &name, const QString &caption, bool secondary 
     return widget;
 }
 
-QGroupBox *frame(const QString &name, const QString &caption)
+QGroupBox *frame(const QString &name, const QString &caption, QWidget *parent)
 {
-    auto *box = new QGroupBox(caption);
+    auto *box = new QGroupBox(caption, parent);
     box->setObjectName(name);
     return box;
 }
@@ -147,8 +147,10 @@ void showOnly(const Level &level, QWidget *shown)
         if (frame != shown)
             frame->setVisible(false);
     }
+    // A frame never hidden needs no showing: showing it before the screen is on show would
+    // style it twice, there and again on the screen.
     for (const auto &[button, frame] : level) {
-        if (frame == shown)
+        if (frame == shown && frame->isHidden() && frame->testAttribute(Qt::WA_WState_ExplicitShowHide))
             frame->setVisible(true);
         theme::restyle(button, "open", frame == shown);
     }
@@ -164,12 +166,12 @@ void linkLevel(const Level &level)
 // The equipment or the services: a button for each item beside the item's frame, one frame
 // on show at a time.
 QGroupBox *itemsFrame(const char *name, const QString &caption, std::span<const ItemFrame> items,
-                      const std::array<QAbstractButton *, kBoxes> &boxes)
+                      const std::array<QAbstractButton *, kBoxes> &boxes, QWidget *parent)
 {
-    QGroupBox *group = frame(QString::fromLatin1(name), caption);
+    QGroupBox *group = frame(QString::fromLatin1(name), caption, parent);
     Level level;
     for (const ItemFrame &item : items) {
-        QGroupBox *inner = frame(QString::fromUtf8(item.frame), QString::fromUtf8(item.frameCaption));
+        QGroupBox *inner = frame(QString::fromUtf8(item.frame), QString::fromUtf8(item.frameCaption), group);
         auto *layout = new QVBoxLayout(inner);
         layout->setContentsMargins(16, 14, 16, 10);
         layout->setSpacing(8);
@@ -306,7 +308,7 @@ QAbstractButton *StadiumScreen::makeBox(int number)
 
 QGroupBox *StadiumScreen::buildWorks()
 {
-    QGroupBox *table = frame(QStringLiteral("Obras"), tr("Estado de las Obras"));
+    QGroupBox *table = frame(QStringLiteral("Obras"), tr("Estado de las Obras"), this);
     auto *grid = new QGridLayout(table);
     grid->setContentsMargins(16, 14, 16, 10);
     grid->setHorizontalSpacing(8);
@@ -349,11 +351,11 @@ QGroupBox *StadiumScreen::buildWorks()
 
 QGroupBox *StadiumScreen::buildRemodel()
 {
-    QGroupBox *remodel = frame(QStringLiteral("Remodelar"), tr("Remodelar"));
-    QGroupBox *seats = buildSeats();
-    QGroupBox *parking = buildParking();
-    QGroupBox *equipment = itemsFrame("Equipamiento", tr("Equipamiento"), kEquipment, m_boxes);
-    QGroupBox *services = itemsFrame("Servicios", tr("Extras"), kServices, m_boxes);
+    QGroupBox *remodel = frame(QStringLiteral("Remodelar"), tr("Remodelar"), this);
+    QGroupBox *seats = buildSeats(remodel);
+    QGroupBox *parking = buildParking(remodel);
+    QGroupBox *equipment = itemsFrame("Equipamiento", tr("Equipamiento"), kEquipment, m_boxes, remodel);
+    QGroupBox *services = itemsFrame("Servicios", tr("Extras"), kServices, m_boxes, remodel);
 
     auto *reset = button(QStringLiteral("cmdReesTablecer"), tr("REESTABLECER"));
     reset->setToolTip(tr("Quita todas las marcas"));
@@ -391,9 +393,9 @@ QGroupBox *StadiumScreen::buildRemodel()
     return remodel;
 }
 
-QGroupBox *StadiumScreen::buildSeats()
+QGroupBox *StadiumScreen::buildSeats(QWidget *parent)
 {
-    QGroupBox *seats = frame(QStringLiteral("gradas"), tr("Gradas"));
+    QGroupBox *seats = frame(QStringLiteral("gradas"), tr("Gradas"), parent);
     // What the screen promises for each extension; the works themselves take two weeks more.
     const char *promises[] = {"       1 Millón de €                       10 Semanas",
                               "       5 Millones de €                   15 Semanas",
@@ -410,9 +412,9 @@ QGroupBox *StadiumScreen::buildSeats()
     return seats;
 }
 
-QGroupBox *StadiumScreen::buildParking()
+QGroupBox *StadiumScreen::buildParking(QWidget *parent)
 {
-    QGroupBox *parking = frame(QStringLiteral("Parking"), tr("Parking"));
+    QGroupBox *parking = frame(QStringLiteral("Parking"), tr("Parking"), parent);
     auto *layout = new QVBoxLayout(parking);
     layout->setContentsMargins(16, 16, 16, 12);
     layout->setSpacing(12);
@@ -423,7 +425,7 @@ QGroupBox *StadiumScreen::buildParking()
 
 QGroupBox *StadiumScreen::buildMatchDay()
 {
-    QGroupBox *matchDay = frame(QStringLiteral("Entradas"), tr("Entradas"));
+    QGroupBox *matchDay = frame(QStringLiteral("Entradas"), tr("Entradas"), this);
     QLabel *title = theme::label("title", tr("DÍA DE PARTIDO"));
     title->setAlignment(Qt::AlignCenter);
     QLabel *stadium = value("lblEstadio2");

@@ -27,10 +27,12 @@ public:
     StadiumScreen(game::Context context, game::Week &week, QWidget *parent = nullptr);
 
 private:
+    // Each frame is made inside the one that holds it, so that it is styled once, where it
+    // stands, and not again each time a finished frame moves into another.
     QGroupBox *buildWorks();
     QGroupBox *buildRemodel();
-    QGroupBox *buildSeats();
-    QGroupBox *buildParking();
+    QGroupBox *buildSeats(QWidget *parent);
+    QGroupBox *buildParking(QWidget *parent);
     QGroupBox *buildMatchDay();
     QAbstractButton *makeBox(int number);
 

@@ -1,6 +1,5 @@
 #include "contractscreen.h"
 
-#include "common/plainlabel.h"
 #include "common/theme.h"
 #include "money.h"
 #include "moneybox.h"

@@ -1,6 +1,6 @@
 #include "playergrid.h"
 
-#include "common/gridstyle.h"
+#include "common/grid.h"
 #include "common/theme.h"
 
 #include <QGridLayout>
@@ -35,15 +35,13 @@ RowsModel<Line>::Column columnOf(PlayerGrid::Column column)
 
 } // namespace
 
-PlayerGrid::PlayerGrid(const char *name, const std::vector<Column> &shown, QWidget *parent) : QTableView(parent)
+PlayerGrid::PlayerGrid(const char *name, const std::vector<Column> &shown, QWidget *parent) : Grid(name, parent)
 {
-    setObjectName(QString::fromUtf8(name));
     std::vector<RowsModel<Line>::Column> columns{{tr("Nº"), [](const Line &p) { return QString::number(p.id); }}};
     for (Column column : shown)
         columns.push_back(columnOf(column));
     m_rows = new RowsModel<Line>(std::move(columns), this);
     setModel(m_rows);
-    styleGrid(this);
     setColumnHidden(0, true);
     setWordWrap(false);
     // The widths are measured on the rows on show and a hundred more, not on every one of the
@@ -59,7 +57,7 @@ PlayerGrid::PlayerGrid(const char *name, const std::vector<Column> &shown, QWidg
 void PlayerGrid::setPlayers(std::vector<game::Market::Line> players)
 {
     m_rows->setRows(std::move(players));
-    resizeColumnsToContents();
+    fitColumns();
 }
 
 int PlayerGrid::playerAt(int row) const
@@ -67,7 +65,7 @@ int PlayerGrid::playerAt(int row) const
     return row >= 0 && row < m_rows->rowCount() ? m_rows->row(row).id : 0;
 }
 
-QGridLayout *groupGrids(std::vector<PlayerGrid::Column> columns,
+QGridLayout *groupGrids(QWidget *screen, std::vector<PlayerGrid::Column> columns,
                         const std::function<std::vector<game::Market::Line>(game::Market::Group)> &players,
                         const std::function<void(int)> &picked, int spacing)
 {
@@ -88,12 +86,12 @@ QGridLayout *groupGrids(std::vector<PlayerGrid::Column> columns,
     grids->setVerticalSpacing(8);
     int place = 0;
     for (const Group &group : groups) {
-        auto *grid = new PlayerGrid(group.name, columns);
+        auto *grid = new PlayerGrid(group.name, columns, screen);
         grid->setPlayers(players(group.group));
         QObject::connect(grid, &PlayerGrid::playerPicked, grid, picked);
         auto *box = new QVBoxLayout;
         box->setSpacing(4);
-        box->addWidget(theme::label("caption", group.caption));
+        box->addWidget(theme::label("caption", group.caption, screen));
         box->addWidget(grid, 1);
         grids->addLayout(box, place / 2, place % 2);
         ++place;

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "common/grid.h"
 #include "common/rowsmodel.h"
 #include "transfers/market.h"
-
-#include <QTableView>
 
 #include <functional>
 #include <vector>
@@ -15,7 +14,7 @@ namespace ui {
 // A grid of players as the market, the squad and the youth search show them. Each grid
 // shows its own columns; before them stands the player's number, kept out of sight, so that
 // a row pressed names him.
-class PlayerGrid : public QTableView
+class PlayerGrid : public Grid
 {
     Q_OBJECT
 
@@ -38,8 +37,9 @@ private:
 
 // The four position groups of a screen of players (goalkeepers, wings, backs, centres), each
 // a captioned grid, two by two; pivots have no grid of their own. Each grid reads its players
-// from `players` and reports a row picked to `picked`.
-QGridLayout *groupGrids(std::vector<PlayerGrid::Column> columns,
+// from `players` and reports a row picked to `picked`. The grids are made on the screen that
+// shows them, so that they are laid out and styled there once, filled.
+QGridLayout *groupGrids(QWidget *screen, std::vector<PlayerGrid::Column> columns,
                         const std::function<std::vector<game::Market::Line>(game::Market::Group)> &players,
                         const std::function<void(int)> &picked, int spacing);
 

@@ -9,7 +9,7 @@ SaleScreen::SaleScreen(game::Context context, QWidget *parent)
     : Page("Fichar_EnVenta", tr("JUGADORES A LA VENTA"), tr("JUGADORES A LA VENTA"), {Back::Side::Left}, parent)
 {
     game::Market market(context);
-    QGridLayout *grids = groupGrids({PlayerGrid::Column::Nombre, PlayerGrid::Column::Apellidos, PlayerGrid::Column::Edad,
+    QGridLayout *grids = groupGrids(this, {PlayerGrid::Column::Nombre, PlayerGrid::Column::Apellidos, PlayerGrid::Column::Edad,
                                      PlayerGrid::Column::Posicion, PlayerGrid::Column::Media},
                                     [&market](game::Market::Group group) { return market.forSale(group); },
                                     [this](int player) { emit playerPicked(player); }, 20);

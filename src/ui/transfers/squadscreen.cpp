@@ -11,7 +11,7 @@ SquadScreen::SquadScreen(game::Context context, QWidget *parent)
     // Narrow margins leave each grid room for its six columns without scrolling.
     setFrame(16, 16, 12);
     game::Market market(context);
-    QGridLayout *grids = groupGrids({PlayerGrid::Column::Nombre, PlayerGrid::Column::Apellidos, PlayerGrid::Column::Edad,
+    QGridLayout *grids = groupGrids(this, {PlayerGrid::Column::Nombre, PlayerGrid::Column::Apellidos, PlayerGrid::Column::Edad,
                                      PlayerGrid::Column::Posicion, PlayerGrid::Column::Media, PlayerGrid::Column::Years},
                                     [&market](game::Market::Group group) { return market.squad(group); },
                                     [this](int player) { emit playerPicked(player); }, 12);
