@@ -28,6 +28,12 @@ QString StoreTest::dump(const std::string &table)
     return dumpTable(*m_store, table);
 }
 
+void StoreTest::breakWrites(const std::string &table, const std::string &what)
+{
+    exec("create temp trigger broken before " + what + " on " + table
+         + " begin select raise(abort, 'database or disk is full'); end");
+}
+
 qint64 StoreTest::count(const std::string &table)
 {
     return m_store->integer("select count(*) from " + table);

@@ -31,6 +31,30 @@ protected:
     QString dump(const std::string &table);
     qint64 count(const std::string &table);
 
+    // One statement as a transaction of its own, its ?s bound to args, as the test's setting
+    // of the scene; the test fails when the store refuses it.
+    template<typename... Args>
+    void exec(const std::string &sql, const Args &...args)
+    {
+        const game::Result done = m_store->run([&] { m_store->execute(sql, args...); });
+        ASSERT_TRUE(done.ok()) << sql << ": " << done.message().toStdString();
+    }
+    template<typename... Args>
+    qint64 value(const std::string &sql, const Args &...args)
+    {
+        return m_store->integer(sql, args...);
+    }
+    template<typename... Args>
+    QString text(const std::string &sql, const Args &...args)
+    {
+        return m_store->text(sql, args...);
+    }
+
+    // Every `what` (insert, update or delete) on the table fails from now on, as on a full
+    // disk, until mend().
+    void breakWrites(const std::string &table, const std::string &what = "insert");
+    void mend() { exec("drop trigger broken"); }
+
     QTemporaryDir m_folder;
     std::unique_ptr<game::GameStore> m_store;
     ScriptedRandom m_random;

@@ -9,17 +9,12 @@
 using game::GameStore;
 using game::Result;
 
-// Guards: a new player's first start, when no working file exists yet.
-TEST_F(StoreTest, createsTheWorkingFileFromThePristineCopyWhenMissing)
+// Guards: a working file made again from the pristine copy at every start, losing the youths
+// added from the menu, or never made on a new player's first start.
+TEST_F(StoreTest, makesTheWorkingFileOnlyWhenMissingAndOpensItAsFoundAfterwards)
 {
     EXPECT_TRUE(QFile::exists(workingPath()));
-    EXPECT_EQ(m_store->integer("select count(*) from datos_jugador"), 1);
-}
-
-// Guards: a working file replaced at every start would lose the youths added from the menu.
-TEST_F(StoreTest, usesTheWorkingFileAsFoundAtTheNextStart)
-{
-    ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set jornada = ?", 7); }).ok());
+    exec("update datos_jugador set jornada = ?", 7);
     m_store->close();
     GameStore again(workingPath(), pristinePath());
     ASSERT_TRUE(again.open().ok());
@@ -30,92 +25,76 @@ TEST_F(StoreTest, usesTheWorkingFileAsFoundAtTheNextStart)
 TEST_F(StoreTest, boundValuesKeepQuotesAccentsAndSqlAsPlainText)
 {
     const QString tricky = QStringLiteral("O'Donnell'); delete from jugadores; -- Muñoz");
-    ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set apellidos = ?", tricky); }).ok());
-    EXPECT_EQ(m_store->text("select apellidos from datos_jugador"), tricky);
+    exec("update datos_jugador set apellidos = ?", tricky);
+    EXPECT_EQ(text("select apellidos from datos_jugador"), tricky);
     EXPECT_GT(count("jugadores"), 1000);
 }
 
-// Guards: a week or a signing left half written when one statement fails.
-TEST_F(StoreTest, aFailureInsideARunLeavesEveryTableAsItWas)
+// Guards: a week or a signing left half written when one statement fails, a run inside a run
+// committing half of the outer work, or a store that stops working after a failure.
+TEST_F(StoreTest, aFailureInsideARunOrARunWithinItLeavesEveryTableAsItWas)
 {
     const QString career = dump("datos_jugador");
     const QString players = dump("jugadores");
-    const Result result = m_store->run([&] {
+    const Result failed = m_store->run([&] {
         m_store->execute("update datos_jugador set jornada = 12, nombre = ?", QStringLiteral("Medio"));
-        m_store->execute("update jugadores set venta = 1");
+        EXPECT_TRUE(m_store->run([&] { m_store->execute("update jugadores set venta = 1"); }).ok());
         m_store->execute("update tabla_que_no_existe set x = 1");
     });
-    EXPECT_FALSE(result.ok());
-    EXPECT_TRUE(result.message().startsWith(QStringLiteral("No se ha podido completar")));
+    EXPECT_FALSE(failed.ok());
+    EXPECT_TRUE(failed.message().startsWith(QStringLiteral("No se ha podido completar")));
     EXPECT_EQ(dump("datos_jugador"), career);
     EXPECT_EQ(dump("jugadores"), players);
-
-    // The store goes on working after the failure.
-    EXPECT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set jornada = 2"); }).ok());
-    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 2);
+    exec("update datos_jugador set jornada = 2");
+    EXPECT_EQ(value("select jornada from datos_jugador"), 2);
 }
 
-// Guards: a routine that calls another writing routine committing half of the outer work.
-TEST_F(StoreTest, aRunInsideARunIsPartOfTheOuterTransaction)
+// Guards: a step that failed inside a routine taking back what the routine wrote before it,
+// keeping half of its own writes, or reported as gone through; a step outside any routine
+// reported as gone through when it failed.
+TEST_F(StoreTest, aFailedAttemptTakesBackOnlyItsOwnWritesAndSaysSo)
 {
-    const Result result = m_store->run([&] {
+    bool first = true, second = true;
+    const Result done = m_store->run([&] {
         m_store->execute("update datos_jugador set jornada = 5");
-        ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set nombre = 'x'"); }).ok());
-        throw std::runtime_error("a later step fails");
+        first = m_store->attempt([&] {
+            m_store->execute("update datos_jugador set nombre = 'x'");
+            m_store->execute("update tabla_que_no_existe set x = 1");
+        });
+        second = m_store->attempt([&] { m_store->execute("update datos_jugador set apellidos = 'y'"); });
     });
-    EXPECT_FALSE(result.ok());
-    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 0);
-    EXPECT_EQ(m_store->text("select nombre from datos_jugador"), QString());
+    ASSERT_TRUE(done.ok());
+    EXPECT_FALSE(first);
+    EXPECT_TRUE(second);
+    EXPECT_EQ(text("select jornada || nombre || apellidos from datos_jugador"), QStringLiteral("5y"));
+    EXPECT_FALSE(m_store->attempt([&] { m_store->execute("update tabla_que_no_existe set x = 1"); }));
+    EXPECT_TRUE(m_store->attempt([&] { m_store->execute("update datos_jugador set jornada = 6"); }));
+    EXPECT_EQ(value("select jornada from datos_jugador"), 6);
 }
 
-namespace {
-
-const std::string kSquad = "select idjugador from jugadores where idequipo = ? order by idjugador";
-
-std::vector<int> squadOf(GameStore &store, int club)
-{
-    std::vector<int> ids;
-    GameStore::Query rows = store.query(kSquad, club);
-    while (rows.next())
-        ids.push_back(rows.integer(0));
-    return ids;
-}
-
-} // namespace
-
-// Guards: an inner query of the same text as a live loop (the squad of another club while
-// going through one club's squad) resetting the outer loop, which then starts over on the
+// Guards: an inner query or lookup of the same text as a live loop (the squad of another club
+// while going through one club's) resetting the outer loop, which then starts over on the
 // inner club's rows or never ends.
-TEST_F(StoreTest, nestedQueriesOfTheSameTextEachKeepTheirOwnRows)
+TEST_F(StoreTest, nestedQueriesAndLookupsOfTheSameTextLeaveTheLiveLoopWhereItWas)
 {
-    const std::vector<int> first = squadOf(*m_store, 1);
-    const std::vector<int> second = squadOf(*m_store, 2);
-    ASSERT_FALSE(first.empty());
+    const std::string squad = "select idjugador from jugadores where idequipo = ? order by idjugador";
+    auto idsOf = [&](int club) {
+        std::vector<int> ids;
+        GameStore::Query rows = m_store->query(squad, club);
+        while (rows.next())
+            ids.push_back(rows.integer(0));
+        return ids;
+    };
+    const std::vector<int> first = idsOf(1);
+    const std::vector<int> second = idsOf(2);
     ASSERT_FALSE(second.empty());
-    ASSERT_NE(first, second);
-
     std::vector<int> outer;
-    GameStore::Query rows = m_store->query(kSquad, 1);
+    GameStore::Query rows = m_store->query(squad, 1);
     while (outer.size() <= first.size() && rows.next()) { // the bound stops a loop that restarts
         outer.push_back(rows.integer(0));
-        EXPECT_EQ(squadOf(*m_store, 2), second);
-    }
-    EXPECT_EQ(outer, first);
-}
-
-// Guards: a one-value lookup of the same text inside a live loop resetting the loop.
-TEST_F(StoreTest, aSameTextLookupInsideALiveLoopLeavesTheLoopWhereItWas)
-{
-    const std::vector<int> first = squadOf(*m_store, 1);
-    const std::vector<int> second = squadOf(*m_store, 2);
-    ASSERT_FALSE(second.empty());
-
-    std::vector<int> outer;
-    GameStore::Query rows = m_store->query(kSquad, 1);
-    while (outer.size() <= first.size() && rows.next()) {
-        outer.push_back(rows.integer(0));
-        EXPECT_EQ(m_store->integer(kSquad, 2), second.front());
-        EXPECT_EQ(m_store->text(kSquad, 2), QString::number(second.front()));
+        EXPECT_EQ(idsOf(2), second);
+        EXPECT_EQ(m_store->integer(squad, 2), second.front());
+        EXPECT_EQ(m_store->text(squad, 2), QString::number(second.front()));
     }
     EXPECT_EQ(outer, first);
 }
@@ -124,40 +103,29 @@ TEST_F(StoreTest, aSameTextLookupInsideALiveLoopLeavesTheLoopWhereItWas)
 // over the pristine copy at the next open.
 TEST_F(StoreTest, restoreGivesThePristineFileWithNoLogFilesLeft)
 {
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("update datos_jugador set jornada = 9, nombre = 'Pep'");
-        m_store->execute("delete from jugadores where idequipo = 84");
-    }).ok());
+    exec("delete from jugadores where idequipo = 84");
     ASSERT_TRUE(QFile::exists(workingPath() + "-wal"));
-
     const Result restored = m_store->restore();
     ASSERT_TRUE(restored.ok()) << restored.message().toStdString();
     EXPECT_FALSE(QFile::exists(workingPath() + "-wal"));
     EXPECT_FALSE(QFile::exists(workingPath() + "-shm"));
     EXPECT_EQ(fileBytes(workingPath()), fileBytes(pristinePath()));
-
-    // The next use opens the restored file.
-    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 0);
-    EXPECT_GT(m_store->integer("select count(*) from jugadores where idequipo = 84"), 0);
+    EXPECT_GT(value("select count(*) from jugadores where idequipo = 84"), 0);
 }
 
-TEST_F(StoreTest, restoreWithoutThePristineCopyReportsItAndKeepsTheCareer)
+// Guards: a missing pristine copy that silently loses the career at a restore, or a store
+// that claims to be open with neither file there.
+TEST_F(StoreTest, aMissingPristineCopyIsReportedAndTheCareerKept)
 {
-    ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set jornada = 3"); }).ok());
+    exec("update datos_jugador set jornada = 3");
     m_store->close();
     GameStore orphan(workingPath(), m_folder.filePath(QStringLiteral("no-existe.mdb")));
     const Result restored = orphan.restore();
     EXPECT_FALSE(restored.ok());
     EXPECT_TRUE(restored.message().contains(QStringLiteral("no-existe.mdb")));
     EXPECT_EQ(orphan.integer("select jornada from datos_jugador"), 3);
-}
 
-TEST(GameStoreOpen, failsWithAMessageWhenNeitherFileExists)
-{
-    QTemporaryDir folder;
-    GameStore store(folder.filePath(QStringLiteral("balonmano.mdb")), folder.filePath(QStringLiteral("balonmanoX.mdb")));
-    const Result opened = store.open();
-    EXPECT_FALSE(opened.ok());
-    EXPECT_FALSE(opened.message().isEmpty());
-    EXPECT_FALSE(store.isOpen());
+    GameStore nothing(m_folder.filePath(QStringLiteral("a.mdb")), m_folder.filePath(QStringLiteral("b.mdb")));
+    EXPECT_FALSE(nothing.open().ok());
+    EXPECT_FALSE(nothing.isOpen());
 }
