@@ -26,7 +26,7 @@ TEST_P(NewCareerRefusal, tellsWhyAndWritesNothing)
 {
     const QString career = dump("datos_jugador");
     const QString coaches = dump("entrenadores");
-    ASSERT_TRUE(m_store->run([&] { m_store->execute("update jugadores set venta = 1 where idjugador < 10"); }).ok());
+    exec("update jugadores set venta = 1 where idjugador < 10");
     const QString players = dump("jugadores");
 
     EXPECT_FALSE(NewCareer(*m_context).start(GetParam().choice));
@@ -58,68 +58,62 @@ TEST_F(StoreTest, aCareerKeepsTheNamesAsTypedApostrophesIncluded)
 
     EXPECT_EQ(dump("datos_jugador"),
               QStringLiteral("0|D'Artagnan |O'Donnell Muñoz|3|CAJA ESPAÑA ADEMAR DE LEÓN|\n"));
-    EXPECT_EQ(m_store->text("select nombre || '/' || apellidos || '/' || confianza_directivos || confianza_publico"
+    EXPECT_EQ(text("select nombre || '/' || apellidos || '/' || confianza_directivos || confianza_publico"
                             " || puntuacion from entrenadores where idEntrenador = 3"),
               QStringLiteral("D'Artagnan /O'Donnell Muñoz/555"));
-    EXPECT_EQ(m_store->integer("select count(*) from entrenadores where nombre = ?", QStringLiteral("D'Artagnan ")), 1);
+    EXPECT_EQ(value("select count(*) from entrenadores where nombre = ?", QStringLiteral("D'Artagnan ")), 1);
 }
 
 // Guards: leftovers of an earlier career (friendlies, ledger, orders, market) leaking into
 // the new one.
 TEST_F(StoreTest, aCareerEmptiesWhatBelongedToTheLastOne)
 {
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("update datos_jugador set jornada = 14");
-        m_store->execute("insert into pretemporada values (1, 20, 1, '2004-08-01')");
-        m_store->execute("insert into calendario values (1, 1, '2004-08-01')");
-        m_store->execute("insert into caja (semana, Caja) values (1, 5000)");
-        m_store->execute("insert into selects values ('update jugadores set idequipo = 1 where idjugador = 5', 1,"
-                         " 1000, 2000, 3000, 5, ' ', ' ')");
-        m_store->execute("insert into jugar values (2, 40, 'A', 'B', 70, 'Portero', 1)");
-        m_store->execute("update jugadores set venta = 1 where idjugador % 7 = 0");
-    }).ok());
+    exec("update datos_jugador set jornada = 14");
+    exec("insert into pretemporada values (1, 20, 1, '2004-08-01')");
+    exec("insert into calendario values (1, 1, '2004-08-01')");
+    exec("insert into caja (semana, Caja) values (1, 5000)");
+    exec("insert into selects values ('update jugadores set idequipo = 1 where idjugador = 5', 1,"
+         " 1000, 2000, 3000, 5, ' ', ' ')");
+    exec("insert into jugar values (2, 40, 'A', 'B', 70, 'Portero', 1)");
+    exec("update jugadores set venta = 1 where idjugador % 7 = 0");
 
     ASSERT_TRUE(NewCareer(*m_context).start({QStringLiteral("Ana"), QStringLiteral("Ruiz"), 16, QStringLiteral("ALMERIA 2005")}));
 
     for (const char *table : {"pretemporada", "calendario", "caja", "selects", "jugar"})
         EXPECT_EQ(count(table), 0) << table;
-    EXPECT_EQ(m_store->integer("select count(*) from jugadores where venta <> 0"), 0);
-    EXPECT_EQ(m_store->integer("select jornada from datos_jugador"), 0);
-    EXPECT_EQ(m_store->integer("select idequipo from datos_jugador"), 16);
+    EXPECT_EQ(value("select count(*) from jugadores where venta <> 0"), 0);
+    EXPECT_EQ(value("select jornada from datos_jugador"), 0);
+    EXPECT_EQ(value("select idequipo from datos_jugador"), 16);
 }
 
 // Guards: a new career that quietly resets the league, the squads or the stadium, which only
 // a restore of the pristine file may do.
 TEST_F(StoreTest, aCareerLeavesLeagueSquadsMoneyAndStadiumsAsTheyStand)
 {
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("update liga_asobal set goles_equipo_local = 30 where idpartido = (select min(idpartido) from liga_asobal)");
-        m_store->execute("update asobal set Puntos = 2 where teams = 4");
-        m_store->execute("update infoteams set presupuesto = -5 where idequipo = 1");
-        m_store->execute("update estadios set min_gradas = 12345 where idequipo = 1");
-        m_store->execute("update entradas set precio_entrada = 33 where idPrecio = 1");
-        m_store->execute("update miequipo set idjugador = 3, Nombre = 'X' where Pos_Partido = 'PORTERO'");
-        m_store->execute("update jugadores set idequipo = 1 where idjugador = 1000");
-    }).ok());
+    exec("update liga_asobal set goles_equipo_local = 30 where idpartido = (select min(idpartido) from liga_asobal)");
+    exec("update asobal set Puntos = 2 where teams = 4");
+    exec("update infoteams set presupuesto = -5 where idequipo = 1");
+    exec("update estadios set min_gradas = 12345 where idequipo = 1");
+    exec("update entradas set precio_entrada = 33 where idPrecio = 1");
+    exec("update miequipo set idjugador = 3, Nombre = 'X' where Pos_Partido = 'PORTERO'");
+    exec("update jugadores set idequipo = 1 where idjugador = 1000");
     const QStringList kept{dump("liga_asobal"), dump("asobal"), dump("infoteams"), dump("estadios"),
                            dump("entradas"), dump("miequipo")};
-    const QString clubs = m_store->text("select group_concat(idequipo) from jugadores");
+    const QString clubs = text("select group_concat(idequipo) from jugadores");
 
     ASSERT_TRUE(NewCareer(*m_context).start({QStringLiteral("Ana"), QStringLiteral("Ruiz"), 1, QStringLiteral("F.C. BARCELONA")}));
 
     const QStringList after{dump("liga_asobal"), dump("asobal"), dump("infoteams"), dump("estadios"),
                             dump("entradas"), dump("miequipo")};
     EXPECT_EQ(after, kept);
-    EXPECT_EQ(m_store->text("select group_concat(idequipo) from jugadores"), clubs);
+    EXPECT_EQ(text("select group_concat(idequipo) from jugadores"), clubs);
 }
 
 // Guards: a store failure half way through leaving a career half begun.
 TEST_F(StoreTest, aCareerThatCannotBeWrittenLeavesNothingAndSaysSo)
 {
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("insert into pretemporada values (1, 20, 1, '2004-08-01')");
-        m_store->execute("drop table jugar");
-    }).ok());
+    exec("insert into pretemporada values (1, 20, 1, '2004-08-01')");
+    exec("drop table jugar");
     const QString career = dump("datos_jugador");
 
     EXPECT_FALSE(NewCareer(*m_context).start({QStringLiteral("Ana"), QStringLiteral("Ruiz"), 5, QStringLiteral("BM VALLADOLID")}));

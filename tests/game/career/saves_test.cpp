@@ -64,7 +64,7 @@ TEST_F(SavedCareer, aWeekSavedAndLoadedIsTheSameWeekWithItsWagesChargedOnce)
     EXPECT_EQ(latest->week, 12);
     EXPECT_EQ(latest->club, 3);
     EXPECT_EQ(latest->stage, QStringLiteral("semana"));
-    EXPECT_EQ(latest->budget, m_store->integer("select presupuesto from infoteams where idequipo = 3"));
+    EXPECT_EQ(latest->budget, value("select presupuesto from infoteams where idequipo = 3"));
 
     // The career goes on and is then thrown away; the save brings back week 12.
     ASSERT_TRUE(season.playWeek());
@@ -117,10 +117,7 @@ TEST_F(SavedCareer, thePlannerAndTheVerdictAreTakenUpWhereTheyStood)
     while (season.playWeek()) {
     }
     ASSERT_EQ(season.career().stage(), Career::Stage::Verdict);
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("insert into selects (\"select\", jornada, oferta, clausula, ficha, jugador, observaciones,"
-                         " pago) values ('', 30, 0, 0, 0, 0, 'tienda 0 90000 7', '')");
-    }).ok());
+    exec("insert into selects values ('', 30, 0, 0, 0, 0, 'tienda 0 90000 7', '')");
     ASSERT_TRUE(season.career().save());
     ASSERT_TRUE(m_store->restore().ok());
     ASSERT_TRUE(m_saves->load(*m_store, m_saves->latest()->path).ok());
@@ -154,28 +151,18 @@ TEST_F(SavedCareer, filesThatAreNotWholeSavesOfThisGameAreRefusedAndChangeNothin
         QByteArray bytes;
         const char *says;
     };
-    QByteArray newer;
-    {
-        const QString copy = m_folder.filePath(QStringLiteral("newer.zarpazo"));
-        ASSERT_TRUE(QFile::copy(good, copy));
+    // A copy of a database changed by one statement, as another program or a later game writes it.
+    auto changed = [&](const QString &source, const char *name, const std::string &sql) {
+        const QString copy = m_folder.filePath(QLatin1String(name));
+        EXPECT_TRUE(QFile::copy(source, copy));
         game::GameStore file(copy, QString());
-        ASSERT_TRUE(file.open().ok());
-        ASSERT_TRUE(file.run([&] { file.execute("update partida set formato = 2"); }).ok());
+        EXPECT_TRUE(file.open().ok() && file.run([&] { file.execute(sql); }).ok());
         file.text("pragma journal_mode=DELETE");
         file.close();
-        newer = fileBytes(copy);
-    }
-    QByteArray noPartida;
-    {
-        const QString copy = m_folder.filePath(QStringLiteral("plain.zarpazo"));
-        ASSERT_TRUE(QFile::copy(pristinePath(), copy));
-        game::GameStore file(copy, QString());
-        ASSERT_TRUE(file.open().ok());
-        ASSERT_TRUE(file.run([&] { file.execute("drop table partida"); }).ok());
-        file.text("pragma journal_mode=DELETE");
-        file.close();
-        noPartida = fileBytes(copy);
-    }
+        return fileBytes(copy);
+    };
+    const QByteArray newer = changed(good, "newer", "update partida set formato = 2");
+    const QByteArray noPartida = changed(pristinePath(), "plain", "drop table partida");
     const Bad bad[] = {
         {"text", QByteArray("no soy una partida\n"), "no es una partida guardada"},
         {"empty", QByteArray(), "no es una partida guardada"},
@@ -187,8 +174,7 @@ TEST_F(SavedCareer, filesThatAreNotWholeSavesOfThisGameAreRefusedAndChangeNothin
     for (const Bad &file : bad) {
         const QString path = QDir(m_saves->folder()).filePath(QLatin1String(file.name) + QStringLiteral(".zarpazo"));
         QFile out(path);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(file.bytes);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly) && out.write(file.bytes) == file.bytes.size());
         out.close();
         const game::Result loaded = m_saves->load(*m_store, path);
         EXPECT_FALSE(loaded.ok()) << file.name;
@@ -292,7 +278,7 @@ TEST_F(SavedCareer, theHistoryTellsEachSeasonAsItsCloseLeftIt)
         ASSERT_TRUE(season.closeSeason(&summary));
         summaries.push_back(summary);
         // Every goal of the club in its matches, friendlies too, is some player's.
-        EXPECT_EQ(m_store->integer("select sum(goles) from goleadores where temporada = ?", played),
+        EXPECT_EQ(value("select sum(goles) from goleadores where temporada = ?", played),
                   season.totals().goalsFor - goalsBefore)
             << played;
         goalsBefore = season.totals().goalsFor;
@@ -313,11 +299,11 @@ TEST_F(SavedCareer, theHistoryTellsEachSeasonAsItsCloseLeftIt)
         EXPECT_EQ(2 * history[row].won + history[row].drawn, history[row].points);
         const int season = int(row) + 1;
         EXPECT_EQ(history[row].topScorerGoals,
-                  m_store->integer("select max(goles) from goleadores where temporada = ?", season));
+                  value("select max(goles) from goleadores where temporada = ?", season));
         EXPECT_FALSE(history[row].topScorer.isEmpty());
         // A busy manager signs every few weeks; the dearest signing is the season's largest sum.
         EXPECT_EQ(history[row].signingSum,
-                  m_store->integer("select max(importe) from traspasos where temporada = ? and tipo = 'fichaje'"
+                  value("select max(importe) from traspasos where temporada = ? and tipo = 'fichaje'"
                                    " and jornada > 0",
                                    season));
         EXPECT_GT(history[row].signingSum, 0);

@@ -28,10 +28,8 @@ protected:
 
     void setClub(int club, int categoria, int place)
     {
-        ASSERT_TRUE(m_store->run([&] {
-            m_store->execute("update equipos set categoria = ? where idequipo = ?", categoria, club);
-            m_store->execute("update asobal set puesto_actual = ? where teams = ?", place, club);
-        }).ok());
+        exec("update equipos set categoria = ? where idequipo = ?", categoria, club);
+        exec("update asobal set puesto_actual = ? where teams = ?", place, club);
     }
 
     static Fixture match(int home, int away)
@@ -129,9 +127,7 @@ TEST_F(TelevisionTest, theFeeGoesToTheWeeksRowAndAFailureIsTold)
     EXPECT_EQ(booked.ingresos, opened.ingresos + 450000);
     EXPECT_EQ(booked.caja, opened.caja + 450000);
 
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("create trigger refuse before update on caja begin select raise(abort, 'disco lleno'); end");
-    }).ok());
+    breakWrites("caja", "update");
     EXPECT_FALSE(Television(*m_context).bookFee(1));
     EXPECT_EQ(m_dialogs.messages().size(), 1u);
     EXPECT_EQ(game::Ledger(*m_store).row(1)->television, 450000);

@@ -36,28 +36,23 @@ protected:
 
     void setStadium(const std::map<std::string, int> &columns)
     {
-        ASSERT_TRUE(m_store->run([&] {
-            for (const auto &[column, value] : columns)
-                m_store->execute("update estadios set " + column + " = ? where idequipo = ?", value, kClub);
-        }).ok());
+        for (const auto &[column, number] : columns)
+            exec("update estadios set " + column + " = ? where idequipo = ?", number, kClub);
     }
 
     qint64 stadium(const std::string &column)
     {
-        return m_store->integer("select " + column + " from estadios where idequipo = ?", kClub);
+        return value("select " + column + " from estadios where idequipo = ?", kClub);
     }
 
-    qint64 budget() { return m_store->integer("select presupuesto from infoteams where idequipo = ?", kClub); }
+    qint64 budget() { return value("select presupuesto from infoteams where idequipo = ?", kClub); }
     Ledger::Row row(int week) { return Ledger(*m_store).row(week).value_or(Ledger::Row{}); }
 
     // A transfer offer as the market writes it: a single blank in the text and the payment.
     void insertOffer(int week)
     {
-        ASSERT_TRUE(m_store->run([&] {
-            m_store->execute("insert into selects (\"select\", jornada, oferta, clausula, ficha, jugador, observaciones, pago)"
-                             " values ('update jugadores set idequipo=4 where idjugador=900', ?, 50000, 0, 1000, 900, ' ', ' ')",
-                             week);
-        }).ok());
+        exec("insert into selects (\"select\", jornada, oferta, clausula, ficha, jugador, observaciones, pago)"
+             " values ('update jugadores set idequipo=4 where idjugador=900', ?, 50000, 0, 1000, 900, ' ', ' ')", week);
     }
 
     std::unique_ptr<game::Week> m_week;
@@ -95,7 +90,7 @@ TEST(WorksCatalogue, eachOrderTextCarriesItsOwnKeyCostAndWeeks)
 TEST_F(WorksTest, anOrderWritesOneRowPerTickedWorkWithTheCapacityFixedNow)
 {
     setStadium({{"min_gradas", 15000}, {"parking", 0}, {"focos", 0}, {"tienda", 0}});
-    ASSERT_TRUE(m_store->run([&] { m_store->execute("update infoteams set presupuesto = -5 where idequipo = ?", kClub); }).ok());
+    exec("update infoteams set presupuesto = -5 where idequipo = ?", kClub);
     const QString ledgerBefore = dump("caja");
 
     const int placed = Works(*m_context).order(
@@ -149,38 +144,27 @@ TEST_F(WorksTest, seatOrdersSetTheCapacityFixedAtTheOrderAndTheLastToEndDecides)
     EXPECT_EQ(row(18).remodelaciones, 5000000);
 }
 
-struct SeatLimit {
-    friend void PrintTo(const SeatLimit &c, std::ostream *out) { *out << c.capacity; }
-    int capacity;
-    const char *offered;
-};
-
-class SeatLimits : public WorksTest, public ::testing::WithParamInterface<SeatLimit>
-{};
-
 // Guards: a limit on the round number instead of one seat above it, so an extension that
 // just reaches 20000 seats is refused, or one that passes 20000 offered.
-TEST_P(SeatLimits, offerOnlyTheExtensionsThatStayWithinTwentyThousandSeats)
+TEST_F(WorksTest, offersOnlyTheExtensionsThatStayWithinTwentyThousandSeats)
 {
-    setStadium({{"min_gradas", GetParam().capacity}});
-    const Works::Screen screen = Works(*m_context).screen();
-    QStringList seats;
-    for (const Choice extension : {Choice::Seats1000, Choice::Seats2000, Choice::Seats4000}) {
-        if (screen.offers(extension))
-            seats << QString::number(Works::orderOf(extension)->value);
+    const std::pair<int, const char *> limits[] = {{16000, "1000 2000 4000"}, {16001, "1000 2000"}, {18000, "1000 2000"},
+                                                   {18001, "1000"}, {19000, "1000"}, {19001, ""}, {25000, ""}};
+    for (const auto &[capacity, offered] : limits) {
+        setStadium({{"min_gradas", capacity}});
+        const Works::Screen screen = Works(*m_context).screen();
+        QStringList seats;
+        for (const Choice extension : {Choice::Seats1000, Choice::Seats2000, Choice::Seats4000}) {
+            if (screen.offers(extension))
+                seats << QString::number(Works::orderOf(extension)->value);
+        }
+        EXPECT_EQ(seats.join(QLatin1Char(' ')), QString::fromUtf8(offered)) << capacity;
     }
-    EXPECT_EQ(seats.join(QLatin1Char(' ')), QString::fromUtf8(GetParam().offered));
 }
 
-INSTANTIATE_TEST_SUITE_P(Capacities, SeatLimits,
-                         ::testing::Values(SeatLimit{16000, "1000 2000 4000"}, SeatLimit{16001, "1000 2000"},
-                                           SeatLimit{18000, "1000 2000"}, SeatLimit{18001, "1000"},
-                                           SeatLimit{19000, "1000"}, SeatLimit{19001, ""},
-                                           SeatLimit{25000, ""}),
-                         [](const auto &info) { return "seats" + std::to_string(info.param.capacity); });
-
-// Guards: a level skipped or offered again, a built service offered once more, or the
-// "without" boxes not standing ticked while the service is missing.
+// Guards: a level skipped or offered again, a built service offered once more, the
+// "without" boxes not standing ticked while the service is missing, or a stadium with
+// everything built still offering a work.
 TEST_F(WorksTest, theScreenOffersTheNextStepOfEachItemAndNothingBuiltTwice)
 {
     setStadium({{"min_gradas", 4800}, {"focos", 1}, {"marcadores", 0}, {"accesos", 3}, {"enfermeria", 2},
@@ -203,16 +187,13 @@ TEST_F(WorksTest, theScreenOffersTheNextStepOfEachItemAndNothingBuiltTwice)
         EXPECT_TRUE(odd.offers(choice)) << Works::caption(choice).toStdString();
     EXPECT_TRUE(odd.isTicked(Choice::NoParking));
     EXPECT_EQ(odd.parkingText, QStringLiteral("Estadio Sin Parkings Propios"));
-}
 
-// Guards: a stadium with everything built still offering a work the button would order.
-TEST_F(WorksTest, aStadiumWithEverythingBuiltOffersNothingToOrder)
-{
+    // Everything built: nothing the button would order.
     setStadium({{"min_gradas", 19001}, {"focos", 3}, {"marcadores", 3}, {"accesos", 3}, {"enfermeria", 3},
                 {"lavabos", 3}, {"tienda", 1}, {"cafeteria", 1}, {"calefaccion", 1}, {"parking", 1}});
-    const Works::Screen screen = Works(*m_context).screen();
-    EXPECT_TRUE(screen.offered.empty()) << Works::caption(screen.offered.front()).toStdString();
-    EXPECT_EQ(Works(*m_context).order(screen.offered), 0);
+    const Works::Screen full = Works(*m_context).screen();
+    EXPECT_TRUE(full.offered.empty()) << Works::caption(full.offered.front()).toStdString();
+    EXPECT_EQ(Works(*m_context).order(full.offered), 0);
     EXPECT_EQ(count("selects"), 0);
 }
 
@@ -225,10 +206,8 @@ TEST_F(WorksTest, aWorkUnderWayClosesItsGroupAndAServiceWorkTheHeatingToo)
                 {"lavabos", 1}, {"tienda", 0}, {"cafeteria", 0}, {"calefaccion", 0}, {"parking", 0}});
     Works works(*m_context);
     insertOffer(1);
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("insert into selects values ('update estadios set focos=9 where idequipo=4', 1, 0, 0, 0, 0,"
-                         " 'grada 1000 1000000 12', ' ')");
-    }).ok());
+    exec("insert into selects values ('update estadios set focos=9 where idequipo=4', 1, 0, 0, 0, 0,"
+         " 'grada 1000 1000000 12', ' ')");
     const Works::Screen open = works.screen();
     EXPECT_TRUE(open.closed.empty());
     EXPECT_TRUE(open.underWay.empty());
@@ -332,12 +311,10 @@ TEST_F(WorksTest, twoIdenticalOrdersBothEndAndAreEachChargedOnce)
 TEST_F(WorksTest, eachOrderIsRunAsStoredAndOneThatCannotBeIsToldAndTheWalkGoesOn)
 {
     setStadium({{"focos", 0}, {"tienda", 0}, {"min_gradas", 5000}});
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("insert into selects values ('update estadios set focos=uno where idequipo=4', 1, 0, 0, 0, 0,"
-                         " 'focos 1 120000 6', 'x')");
-        m_store->execute("insert into selects values ('update estadios set min_gradas=7777 where idequipo=4', 1, 0, 0,"
-                         " 0, 0, 'gradas 1500 1000000 6', 'x')");
-    }).ok());
+    exec("insert into selects values ('update estadios set focos=uno where idequipo=4', 1, 0, 0, 0, 0,"
+         " 'focos 1 120000 6', 'x')");
+    exec("insert into selects values ('update estadios set min_gradas=7777 where idequipo=4', 1, 0, 0, 0, 0,"
+         " 'gradas 1500 1000000 6', 'x')");
     Works works(*m_context);
     ASSERT_EQ(works.order({Choice::Lights300kW}), 1);
     m_dialogs.clear();
@@ -373,7 +350,7 @@ TEST_F(WorksTest, theShopPaysEveryWeekItStandsFromTheWeekItIsBuilt)
     // Without a shop nothing comes until the one ordered now is built, that very week; a
     // balance below zero changes nothing.
     setStadium({{"tienda", 0}});
-    ASSERT_TRUE(m_store->run([&] { m_store->execute("update infoteams set presupuesto = -9000000 where idequipo = ?", kClub); }).ok());
+    exec("update infoteams set presupuesto = -9000000 where idequipo = ?", kClub);
     ASSERT_EQ(works.order({Choice::Shop}), 1); // week 2, seven weeks
     for (int week = 3; week <= 8; ++week) {
         openUntil(week);
