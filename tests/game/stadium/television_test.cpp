@@ -116,19 +116,3 @@ TEST_F(TelevisionTest, eachOfTheSevenDrawsNamesItsOwnChannel)
               QStringLiteral("Teleiberia Deportes|Canal Siete Mares|Solana Televisión|Mirador TV|Telesport Hispania|"
                              "Levantina de Televisión|Onda Cierzo TV"));
 }
-
-// Guards: the fee booked to the wrong week or column, or a refused booking not told.
-TEST_F(TelevisionTest, theFeeGoesToTheWeeksRowAndAFailureIsTold)
-{
-    const game::Ledger::Row opened = *game::Ledger(*m_store).row(1);
-    ASSERT_TRUE(Television(*m_context).bookFee(1));
-    const game::Ledger::Row booked = *game::Ledger(*m_store).row(1);
-    EXPECT_EQ(booked.television, 450000);
-    EXPECT_EQ(booked.ingresos, opened.ingresos + 450000);
-    EXPECT_EQ(booked.caja, opened.caja + 450000);
-
-    breakWrites("caja", "update");
-    EXPECT_FALSE(Television(*m_context).bookFee(1));
-    EXPECT_EQ(m_dialogs.messages().size(), 1u);
-    EXPECT_EQ(game::Ledger(*m_store).row(1)->television, 450000);
-}
