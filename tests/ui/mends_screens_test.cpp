@@ -106,3 +106,141 @@ TEST_F(MendsScreens, theLedgerChartsEachWeekOfTheSeasonFromItsRow)
     }
     screenshot(QStringLiteral("ledger_chart"));
 }
+
+// Guards: a verdict that does not say which season it closes, or says the first one every
+// year; the panel and the calendar of a later season on the first one's dates; a verdict that
+// Escape takes away before it is read.
+TEST_F(MendsScreens, eachSeasonIsNamedByItsYearsOnTheVerdictThePanelAndTheCalendar)
+{
+    reachFirstLeagueWeek();
+    for (const char *years : {"2004-2005", "2005-2006"}) {
+        playToTheVerdict();
+        ASSERT_FALSE(HasFatalFailure());
+        auto *verdict = m_navigator->screen<QDialog>(QStringLiteral("Finall"));
+        ASSERT_NE(verdict, nullptr) << years;
+        EXPECT_EQ(text(QStringLiteral("lblTemporada")), QStringLiteral("Temporada ") + QLatin1String(years));
+        QTest::keyClick(verdict, Qt::Key_Escape);
+        settle();
+        ASSERT_EQ(m_navigator->screen(QStringLiteral("Finall")), verdict);
+        EXPECT_TRUE(verdict->isVisible());
+        click(QStringLiteral("cmdOK"));
+        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Pretemporada"));
+        if (QLatin1String(years) == QLatin1String("2005-2006"))
+            break;
+
+        // The second season's first week: its match and the calendar fall in 2005-2006.
+        for (int slot = 0; slot < 5; ++slot)
+            click(QStringLiteral("cmdNoJugar"));
+        click(QStringLiteral("cmdSeguir"));
+        runWeekEvents();
+        if (m_navigator->screen(QStringLiteral("Tele")))
+            click(QStringLiteral("cmdOK"));
+        EXPECT_TRUE(m_window->windowTitle().contains(QStringLiteral("/2005 "))) << m_window->windowTitle().toStdString();
+        click(QStringLiteral("c"));
+        for (int row = 0; row < 7; ++row) {
+            const QString date = indexed::find(m_navigator->current(), QStringLiteral("lblFecha"), row)->text();
+            EXPECT_TRUE(date.endsWith(QStringLiteral("/2005")) || date.endsWith(QStringLiteral("/2006"))) << row;
+        }
+        click(QStringLiteral("cmdVOLVER"));
+    }
+}
+
+// Guards: a champion shown with another club's crest, the bottom two read from the wrong end
+// of the places or named differently in the two lists, the user's place numbered as the table
+// numbers it, and a verdict that closes by anything but its OK.
+TEST_F(MendsScreens, theVerdictShowsTheChampionByItsCrestTheBottomTwoAndTheUsersStoredPlace)
+{
+    // The crests as the player chose among them, shrunk to a common size.
+    goToMenu();
+    click(QStringLiteral("Command4"));
+    std::map<int, QImage> chosenBy;
+    const auto shrunk = [](const QPixmap &crest) {
+        return crest.toImage().scaled(24, 24, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+            .convertToFormat(QImage::Format_ARGB32);
+    };
+    for (ui::CrestButton *crest : find(QStringLiteral("Liga_Manager"))->findChildren<ui::CrestButton *>())
+        chosenBy[crest->clubId()] = shrunk(crest->pixmap());
+    ASSERT_EQ(chosenBy.size(), 16u);
+    click(QStringLiteral("Command2"));
+    const auto nearest = [&](const QImage &crest) {
+        int best = 0;
+        qint64 bestDistance = 0;
+        for (const auto &[club, picture] : chosenBy) {
+            qint64 distance = 0;
+            for (int y = 0; y < 24; ++y) {
+                for (int x = 0; x < 24; ++x) {
+                    const QColor a = crest.pixelColor(x, y), b = picture.pixelColor(x, y);
+                    distance += std::abs(a.red() - b.red()) + std::abs(a.green() - b.green())
+                                + std::abs(a.blue() - b.blue()) + std::abs(a.alpha() - b.alpha());
+                }
+            }
+            if (best == 0 || distance < bestDistance) {
+                best = club;
+                bestDistance = distance;
+            }
+        }
+        return best;
+    };
+
+    reachFirstLeagueWeek();
+    const int user = club();
+    const int a = user == 1 ? 2 : 1;
+    const int b = user == 5 ? 6 : 5;
+    struct Case
+    {
+        const char *what;
+        int champion, last, secondLast;
+        const char *place;
+    };
+    const Case cases[] = {{"the user champion", user, a, b, "16"}, {"the user last", a, user, b, "1"}};
+    for (const Case &c : cases) {
+        // The season's close ranks the clubs into puesto_anterior: the champion 16, the last 1.
+        ASSERT_TRUE(m_store->run([&] {
+            m_store->execute("update asobal set puesto_anterior = teams + 100");
+            m_store->execute("update asobal set puesto_anterior = 16 where teams = ?", c.champion);
+            m_store->execute("update asobal set puesto_anterior = 1 where teams = ?", c.last);
+            m_store->execute("update asobal set puesto_anterior = 2 where teams = ?", c.secondLast);
+        }).ok());
+        ui::VerdictScreen verdict(game::SeasonClose(*m_context).verdict(), m_window.get());
+        verdict.open();
+        settle();
+        const auto shown = [&](const char *name) {
+            auto *label = verdict.findChild<QLabel *>(QString::fromLatin1(name));
+            return label ? label->text() : QStringLiteral("<no %1>").arg(QLatin1String(name));
+        };
+        EXPECT_EQ(verdict.windowTitle(), QStringLiteral("Resultados Finales"));
+        EXPECT_EQ(shown("win"), clubName(c.champion)) << c.what;
+        EXPECT_EQ(nearest(shrunk(verdict.findChild<QLabel *>(QStringLiteral("Imagen"))->pixmap())), c.champion)
+            << c.what;
+        EXPECT_EQ(shown("dos"), clubName(c.last)) << c.what;
+        EXPECT_EQ(shown("uno"), clubName(c.secondLast)) << c.what;
+        EXPECT_EQ(shown("compra1"), shown("dos")) << c.what;
+        EXPECT_EQ(shown("Compra2"), shown("uno")) << c.what;
+        EXPECT_EQ(shown("pos"), QLatin1String(c.place)) << c.what;
+        QStringList captions;
+        for (QLabel *label : verdict.findChildren<QLabel *>())
+            captions << label->text();
+        for (const char *caption : {"CAMPEÓN DE LA LIGA ASOBAL", "Desciende:", "Compra Plaza:", "Posición Alcanzada:"})
+            EXPECT_TRUE(captions.contains(QString::fromUtf8(caption))) << caption;
+        expectTidy(QString::fromUtf8(c.what), &verdict);
+        if (c.champion == user)
+            screenshot(QStringLiteral("verdict"), &verdict);
+
+        // Escape and the frame's close leave it up; its OK is the one way on.
+        QTest::keyClick(&verdict, Qt::Key_Escape);
+        EXPECT_FALSE(verdict.close());
+        settle();
+        EXPECT_TRUE(verdict.isVisible()) << c.what;
+        verdict.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+        settle();
+        EXPECT_FALSE(verdict.isVisible()) << c.what;
+        EXPECT_EQ(verdict.result(), QDialog::Accepted) << c.what;
+    }
+    // Whichever club wins, the crest is the one the player knows it by.
+    for (int champion = 1; champion <= 16; ++champion) {
+        game::SeasonClose::Verdict given;
+        given.champion = champion;
+        ui::VerdictScreen verdict(given);
+        EXPECT_EQ(nearest(shrunk(verdict.findChild<QLabel *>(QStringLiteral("Imagen"))->pixmap())), champion);
+    }
+}
