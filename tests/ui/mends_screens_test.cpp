@@ -244,3 +244,68 @@ TEST_F(MendsScreens, theVerdictShowsTheChampionByItsCrestTheBottomTwoAndTheUsers
         EXPECT_EQ(nearest(shrunk(verdict.findChild<QLabel *>(QStringLiteral("Imagen"))->pixmap())), champion);
     }
 }
+
+// Guards: a hovered crest taken for a choice; the longest name the form takes running into
+// the club's or widening the screen; "No Jugar" or a club picked with the five slots dealt
+// with that still changes something; "Borrar Partido" with none dealt with that does.
+TEST_F(MendsScreens, thePlannerTakesFiveSlotsNoMoreAndKeepsALongNameOffTheClub)
+{
+    goToMenu();
+    click(QStringLiteral("Command4"));
+    const QString nombre(50, QLatin1Char('W'));
+    const QString apellidos(50, QLatin1Char('M'));
+    type(QStringLiteral("txtNombre"), nombre);
+    type(QStringLiteral("txtApellidos"), apellidos);
+    const QString career = dump("datos_jugador");
+    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+    QApplication::sendEvent(find(QStringLiteral("IAdemar")), &enter);
+    click(QStringLiteral("cmdSeguir"));
+    EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("Selecciona un Equipo de la Liga ASOBAL")});
+    EXPECT_EQ(dump("datos_jugador"), career);
+    ASSERT_NE(find(QStringLiteral("Liga_Manager")), nullptr);
+    QTest::mouseClick(find(QStringLiteral("IAdemar")), Qt::LeftButton);
+    click(QStringLiteral("cmdSeguir"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Pretemporada"));
+
+    EXPECT_EQ(text(QStringLiteral("lblNombre")), nombre + QLatin1Char(' ') + apellidos);
+    expectTidy(QStringLiteral("a long name"));
+    screenshot(QStringLiteral("planner_long_name"));
+
+    auto *decline = find<QPushButton>(QStringLiteral("cmdNoJugar"));
+    // An act the planner refuses leaves the button, the store and every label as they were,
+    // but for the labels that name the country and the club just picked.
+    const auto refused = [&](const char *what, const std::function<void()> &act, const QStringList &named = {}) {
+        const auto before = labels();
+        const bool enabled = decline->isEnabled();
+        const QString stored = dump("pretemporada");
+        act();
+        auto after = labels();
+        ASSERT_EQ(after.size(), before.size());
+        for (std::size_t i = 0; i < after.size(); ++i) {
+            EXPECT_TRUE(named.contains(after[i].first) || after[i] == before[i])
+                << what << ": " << after[i].first.toStdString() << " " << after[i].second.toStdString();
+        }
+        EXPECT_EQ(decline->isEnabled(), enabled) << what;
+        EXPECT_EQ(dump("pretemporada"), stored) << what;
+    };
+    refused("Borrar Partido with none dealt with", [&] { click(QStringLiteral("cmdBorrar")); });
+    EXPECT_TRUE(decline->isEnabled());
+
+    for (const bool fifthPicked : {true, false}) {
+        for (int slot = 0; slot < 4; ++slot)
+            click(QStringLiteral("cmdNoJugar"));
+        if (fifthPicked)
+            chooseClub("cmdFrancia", 0);
+        else
+            click(QStringLiteral("cmdNoJugar"));
+        const char *how = fifthPicked ? "after a fifth picked" : "after a fifth declined";
+        refused(how, [&] { QTest::mouseClick(decline, Qt::LeftButton); });
+        refused(how, [&] { chooseClub("cmdCroacia", 1); }, {QStringLiteral("lblPaisSel"), QStringLiteral("lblNombreEquipo")});
+        EXPECT_EQ(text(QStringLiteral("lblPaisSel")), QStringLiteral("CROACIA")) << how;
+        EXPECT_EQ(text(QStringLiteral("lblNombreEquipo")), find<QListWidget>(QStringLiteral("DataList1"))->item(1)->text());
+        for (int slot = 0; slot < 5; ++slot)
+            click(QStringLiteral("cmdBorrar"));
+        EXPECT_EQ(count("pretemporada"), 0) << how;
+        EXPECT_TRUE(decline->isEnabled()) << how;
+    }
+}
