@@ -309,3 +309,22 @@ TEST_F(MendsScreens, thePlannerTakesFiveSlotsNoMoreAndKeepsALongNameOffTheClub)
         EXPECT_TRUE(decline->isEnabled()) << how;
     }
 }
+
+// Guards: a pasted text without a digit leaving a box with no sum at all.
+TEST_F(MendsScreens, aPasteWithoutDigitsLeavesOneEuroAsAnEmptiedBoxDoes)
+{
+    reachFirstLeagueWeek();
+    const int player = int(m_store->integer("select min(idjugador) from jugadores where idequipo = 21"));
+    m_navigator->open(QStringLiteral("Fichar_Jugadores"),
+                      QVariantMap{{QStringLiteral("player"), player}, {QStringLiteral("listed"), false}});
+    settle();
+    const std::pair<const char *, const char *> pastes[] = {{"abc", "1 €"}, {"€", "1 €"}, {" - ", "1 €"}, {"4x5", "45"}};
+    for (const auto &[pasted, shown] : pastes) {
+        auto *box = find<QLineEdit>(QStringLiteral("txtficha"));
+        box->setFocus();
+        box->selectAll();
+        QApplication::clipboard()->setText(QString::fromUtf8(pasted));
+        box->paste();
+        EXPECT_EQ(box->text(), QString::fromUtf8(shown)) << pasted;
+    }
+}
