@@ -328,3 +328,76 @@ TEST_F(MendsScreens, aPasteWithoutDigitsLeavesOneEuroAsAnEmptiedBoxDoes)
         EXPECT_EQ(box->text(), QString::fromUtf8(shown)) << pasted;
     }
 }
+
+// Guards: Escape taking the television's offer away before its fee is booked.
+TEST_F(MendsScreens, escapeLeavesTheTelevisionOfferUp)
+{
+    startCareerFromMenu(QStringLiteral("IValencia"));
+    chooseClub("cmdAlemania", 0);
+    for (int slot = 1; slot < 5; ++slot)
+        click(QStringLiteral("cmdNoJugar"));
+    click(QStringLiteral("cmdSeguir"));
+    runWeekEvents();
+    auto *tele = m_navigator->screen<QDialog>(QStringLiteral("Tele"));
+    ASSERT_NE(tele, nullptr);
+    QTest::keyClick(tele, Qt::Key_Escape);
+    settle();
+    ASSERT_EQ(m_navigator->screen(QStringLiteral("Tele")), tele);
+    EXPECT_TRUE(tele->isVisible());
+    click(QStringLiteral("cmdOK"));
+    EXPECT_EQ(m_navigator->screen(QStringLiteral("Tele")), nullptr);
+}
+
+// Guards: a match window that lets the panel show round it, a score that does not follow the
+// goals in figures, and commentary lines cut at the list's edge.
+TEST_F(MendsScreens, theMatchCoversTheWindowFollowsTheScoreAndShowsEveryLineWhole)
+{
+    startCareerFromMenu(QStringLiteral("IValencia"));
+    // Long names make long lines.
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update jugadores set Apellidos = Apellidos || ' de la Santísima Trinidad y Castellanos'");
+    }).ok());
+    for (int slot = 0; slot < 5; ++slot)
+        click(QStringLiteral("cmdNoJugar"));
+    click(QStringLiteral("cmdSeguir"));
+    runWeekEvents();
+    click(QStringLiteral("cmdSeguir"));
+    callUpFirstFourteen();
+    click(QStringLiteral("cmdJugar"));
+    ASSERT_NE(match(), nullptr);
+    EXPECT_EQ(QRect(match()->mapToGlobal(QPoint()), match()->size()),
+              QRect(m_window->mapToGlobal(QPoint()), m_window->size()));
+
+    for (int half = 0; half < 2; ++half) {
+        click(QStringLiteral("cmdStart"));
+        for (int guard = 0; guard < 1000 && match()->engine().running(); ++guard) {
+            const int goals = match()->engine().score(0) + match()->engine().score(1);
+            match()->tick();
+            if (match()->engine().score(0) + match()->engine().score(1) == goals)
+                continue;
+            settle();
+            for (int side = 0; side < 2; ++side) {
+                auto *score = indexed::find(match(), QStringLiteral("lblMarcador"), side);
+                ASSERT_EQ(score->text(), QString::number(match()->engine().score(side)));
+                ASSERT_GE(score->width(), score->sizeHint().width()) << "the score " << score->text().toStdString();
+            }
+        }
+    }
+    settle();
+    EXPECT_GT(match()->engine().score(0) + match()->engine().score(1), 10);
+
+    auto *lines = find<QListWidget>(QStringLiteral("list2"));
+    EXPECT_EQ(lines->horizontalScrollBar()->maximum(), 0);
+    const QFontMetrics metrics(lines->font());
+    int longest = 0;
+    for (int row = 0; row < lines->count(); ++row) {
+        QListWidgetItem *line = lines->item(row);
+        const QRect room = lines->visualItemRect(line);
+        const QRect needed = metrics.boundingRect(QRect(0, 0, room.width(), 10000), Qt::TextWordWrap, line->text());
+        EXPECT_LE(room.right(), lines->viewport()->width()) << line->text().toStdString();
+        EXPECT_LE(needed.height(), room.height()) << line->text().toStdString();
+        longest = std::max(longest, metrics.horizontalAdvance(line->text()));
+    }
+    EXPECT_GT(longest, lines->viewport()->width()); // some line had to wrap
+    screenshot(QStringLiteral("match_long_lines"), match());
+}
