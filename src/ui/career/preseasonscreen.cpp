@@ -2,6 +2,7 @@
 
 #include "league/fixture.h"
 #include "common/countrypicker.h"
+#include "common/elidedlabel.h"
 #include "common/indexedlabel.h"
 #include "common/theme.h"
 
@@ -22,13 +23,17 @@ PreseasonScreen::PreseasonScreen(game::Career &career, QWidget *parent)
     setFrame(28, 16, 10);
     connect(this, &Page::closeRequested, this, &PreseasonScreen::backToMenu);
 
-    auto *name = theme::label("value", m_planner.manager());
+    // The manager at the left, his club at the right. A name as long as the form takes (fifty
+    // letters and fifty more) is cut with "…" short of the club's, never over it.
+    auto *name = new ElidedLabel(m_planner.manager());
     name->setObjectName(QStringLiteral("lblNombre"));
+    name->setProperty("role", QStringLiteral("value"));
+    name->setToolTip(m_planner.manager());
     auto *club = theme::label("value", m_planner.clubName());
     club->setObjectName(QStringLiteral("lblEquipo"));
     auto *who = new QHBoxLayout;
-    who->addWidget(name);
-    who->addStretch();
+    who->setSpacing(24);
+    who->addWidget(name, 1);
     who->addWidget(club);
 
     auto *seguir = new QPushButton(tr("SEGUIR"));
@@ -84,7 +89,9 @@ QWidget *PreseasonScreen::buildSlots()
     m_decline->setObjectName(QStringLiteral("cmdNoJugar"));
     m_decline->setProperty("role", QStringLiteral("secondary"));
     connect(m_decline, &QPushButton::clicked, this, [this] {
-        m_planner.decline();
+        // With the five slots dealt with the planner refuses, and nothing on screen changes.
+        if (!m_planner.decline())
+            return;
         m_decline->setEnabled(m_planner.slotsDealt() < game::Preseason::kSlots);
         showSlots();
     });

@@ -5,6 +5,7 @@
 #include <QBarCategoryAxis>
 #include <QBarSeries>
 #include <QBarSet>
+#include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
 #include <QLineSeries>
@@ -130,14 +131,23 @@ QChartView *ledger(const char *name, const Ledger &ledger)
     chart->addSeries(balance);
     chart->legend()->setAlignment(Qt::AlignBottom);
 
-    QStringList captions;
-    for (const QString &caption : ledger.captions)
-        captions << caption;
-    auto *weeks = new QBarCategoryAxis;
-    weeks->append(captions.isEmpty() ? QStringList{QString()} : captions);
+    // Every category is captioned when they are few; of many (a whole season's weeks), the
+    // first and every fifth, so that the numbers never run into each other.
+    const int count = int(ledger.captions.size());
+    const int every = count <= 12 ? 1 : 5;
+    auto *weeks = new QCategoryAxis;
+    weeks->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    weeks->setRange(-0.5, std::max(count, 1) - 0.5);
+    for (int i = 0; i < count; ++i) {
+        if (i == 0 || (i + 1) % every == 0)
+            weeks->append(ledger.captions[std::size_t(i)], i);
+    }
     auto *euros = new QValueAxis;
+    // Marks at round sums, which a reader takes in at once; money that never went below nought
+    // stands on the nought line.
     const double margin = std::max(1.0, (high - low) * 0.05);
-    euros->setRange(low - margin, high + margin);
+    euros->setRange(low < 0 ? low - margin : 0, high + margin);
+    euros->applyNiceNumbers();
     euros->setLabelFormat(QStringLiteral("%.0f"));
     styleAxis(weeks);
     styleAxis(euros);

@@ -16,14 +16,19 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace ui {
 
-// The commentary, newest line first. The list lays its lines out again from the top whenever
-// one comes; each line is measured once, as it comes, so that this costs little however long
-// the match has run.
+// The commentary, newest line first. A line longer than the list is wide wraps onto the next,
+// so the player reads every line whole without scrolling sideways. The list lays its lines out
+// again from the top whenever one comes; each line is measured once, as it comes, at the
+// list's width (and all again only when that width changes), so that this costs little however
+// long the match has run.
 class Commentary : public QListWidget
 {
 public:
@@ -31,6 +36,11 @@ public:
     {
         setObjectName(QStringLiteral("list2"));
         setProperty("role", QStringLiteral("commentary"));
+        setWordWrap(true);
+        setTextElideMode(Qt::ElideNone);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        // The bar stays, so the width the lines were measured at does not change when it comes.
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     }
 
     void addLine(const QString &text, const QColor &colour)
@@ -53,13 +63,28 @@ protected:
         QListWidget::showEvent(event);
     }
 
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QListWidget::resizeEvent(event);
+        if (event->size().width() != event->oldSize().width() && testAttribute(Qt::WA_WState_Polished)) {
+            for (int row = 0; row < count(); ++row)
+                measure(item(row));
+        }
+    }
+
 private:
+    static constexpr int kSlack = 6;
+
     void measure(QListWidgetItem *item)
     {
         QStyleOptionViewItem option;
         initViewItemOption(&option);
+        // The height a line takes wrapped a little short of the list's width, so that the
+        // line's own padding never pushes its last word out of sight.
+        const int width = viewport()->width();
+        option.rect = QRect(0, 0, std::max(1, width - kSlack), 1);
         const QModelIndex index = indexFromItem(item);
-        item->setSizeHint(itemDelegateForIndex(index)->sizeHint(option, index));
+        item->setSizeHint(QSize(width, itemDelegateForIndex(index)->sizeHint(option, index).height()));
     }
 };
 
@@ -142,8 +167,9 @@ MatchScreen::MatchScreen(game::Context context, game::MatchEngine &engine, const
     // The crowd was settled before a ball is thrown; at home it is in the ledger already.
     showGate(gate);
     refresh();
-    setMaximumSize(1280, 720);
-    resize(1240, 700);
+    resize(1280, 720);
+    if (parent)
+        parent->installEventFilter(this);
 }
 
 MatchScreen::~MatchScreen() = default;
@@ -158,9 +184,13 @@ QWidget *MatchScreen::buildScoreboard()
     QLabel *away = sideLabel("lblEquipoVis", 0);
     setNamed(away, m_fixture.awayName);
     away->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // The score is figures, never cut short: each side's label is as wide as its goals.
     for (int side = 0; side < 2; ++side) {
-        m_score[std::size_t(side)] = sideLabel("lblMarcador", side);
-        m_score[std::size_t(side)]->setText(QStringLiteral("0"));
+        QLabel *score = plainLabel(QStringLiteral("0"));
+        score->setObjectName(QStringLiteral("lblMarcador"));
+        score->setProperty("index", side);
+        score->setAlignment(Qt::AlignCenter);
+        m_score[std::size_t(side)] = score;
     }
     QLabel *minuteCaption = theme::label("muted", tr("Minuto:"));
     m_minute = plainLabel(QStringLiteral("0"));
@@ -405,6 +435,26 @@ void MatchScreen::reject()
 {
     if (mayClose() && !m_leaving)
         QDialog::reject();
+}
+
+void MatchScreen::showEvent(QShowEvent *event)
+{
+    coverWindow();
+    QDialog::showEvent(event);
+}
+
+bool MatchScreen::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parentWidget() && isVisible() && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+        coverWindow();
+    return QDialog::eventFilter(watched, event);
+}
+
+void MatchScreen::coverWindow()
+{
+    // The match takes the whole window it is played over: nothing of the panel shows round it.
+    if (QWidget *behind = parentWidget())
+        setGeometry(QRect(behind->mapToGlobal(QPoint(0, 0)), behind->size()));
 }
 
 void MatchScreen::closeEvent(QCloseEvent *event)

@@ -23,8 +23,8 @@ class Commentary;
 // "Partido": the week's match, played on a live commentary. The user starts each half, may
 // exchange players and announce a system at any moment, and leaves with "SALIR" at full time.
 // It shows the match the career has kicked off (the career owns it and records it when the
-// player leaves) and the crowd settled for it, and it fits the 1280×720 window whatever the
-// names: a long name is cut short, never the screen widened.
+// player leaves) and the crowd settled for it. It covers the window it is played over, and fits
+// the 1280×720 window whatever the names: a long name is cut short, never the screen widened.
 class MatchScreen : public QDialog
 {
     Q_OBJECT
@@ -49,9 +49,12 @@ public slots:
     void reject() override;
 
 protected:
+    void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void coverWindow();
     QWidget *buildScoreboard();
     QWidget *buildRows();
     QWidget *buildSide();

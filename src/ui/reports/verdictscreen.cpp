@@ -4,6 +4,7 @@
 #include "common/plainlabel.h"
 #include "common/theme.h"
 
+#include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -88,9 +89,13 @@ VerdictScreen::VerdictScreen(const game::SeasonClose::Verdict &verdict, QWidget 
     buttons->addStretch();
     buttons->addWidget(ok);
 
+    // The season it closes, by its years: a career reads many verdicts.
+    QLabel *season = theme::label("section", tr("Temporada %1").arg(verdict.years));
+    season->setObjectName(QStringLiteral("lblTemporada"));
+
     auto *right = new QVBoxLayout;
     right->setSpacing(18);
-    right->addSpacing(8);
+    right->addWidget(season);
     right->addLayout(bottom);
     right->addWidget(yours);
     right->addStretch();
@@ -106,7 +111,11 @@ VerdictScreen::VerdictScreen(const game::SeasonClose::Verdict &verdict, QWidget 
 
 void VerdictScreen::reject()
 {
-    accept();
+}
+
+void VerdictScreen::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
 }
 
 } // namespace ui

@@ -1,10 +1,12 @@
 #include "ledgerscreen.h"
 
+#include "common/charts.h"
 #include "common/indexedlabel.h"
 #include "common/plainlabel.h"
 #include "common/theme.h"
 #include "money.h"
 
+#include <QChartView>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -129,10 +131,30 @@ LedgerScreen::LedgerScreen(game::Context context, int currentWeek, QWidget *pare
     stepper->addWidget(weekButton);
     stepper->addWidget(seasonButton);
 
+    // The figures at the left, the season so far drawn at their right.
+    auto *body = new QHBoxLayout;
+    body->setSpacing(16);
+    body->addWidget(m_week, 3);
+    body->addWidget(m_season, 3);
+    body->addWidget(seasonChart(), 2);
+
     addLayout(stepper);
-    addWidget(m_week, 1);
-    addWidget(m_season, 1);
+    addLayout(body, 1);
     fill();
+}
+
+QWidget *LedgerScreen::seasonChart()
+{
+    // Every week of the season on file: what came in and what went out as bars, and the cash
+    // the week closed with as a line over them, so a season's drift shows at a glance.
+    charts::Ledger weeks{tr("La temporada, semana a semana"), {}, {}, {}, {}};
+    for (const game::Ledger::Row &week : game::Ledger(m_context.store).season()) {
+        weeks.captions.push_back(QString::number(week.semana));
+        weeks.income.push_back(double(week.ingresos));
+        weeks.expenses.push_back(double(week.gastos));
+        weeks.balance.push_back(double(week.caja));
+    }
+    return charts::ledger("chartCaja", weeks);
 }
 
 QGroupBox *LedgerScreen::buildFrame(const char *name, const QString &caption, int index)

@@ -9,7 +9,8 @@ class QLineEdit;
 
 namespace ui {
 
-// "LA CAJA": the money of one week, or the sums of the season, with the week before.
+// "LA CAJA": the money of one week, or the sums of the season, with the week before, and a
+// chart of the season so far week by week.
 class LedgerScreen : public Page
 {
     Q_OBJECT
@@ -19,6 +20,7 @@ public:
 
 private:
     QGroupBox *buildFrame(const char *name, const QString &caption, int index);
+    QWidget *seasonChart();
     void fill();
     void setAmount(const char *label, int index, qint64 amount);
 

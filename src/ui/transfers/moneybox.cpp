@@ -67,9 +67,10 @@ MoneyBox::MoneyBox(const char *name, QWidget *parent) : QLineEdit(parent)
     setAlignment(Qt::AlignRight);
     setMinimumWidth(150);
     connect(this, &QLineEdit::textEdited, this, [this](const QString &text) {
-        // A sum is never missing: an emptied box asks for one euro. Pasted text keeps only
-        // its digits, as typing would have.
-        if (text.isEmpty())
+        // A sum is never missing: a box left without a digit, emptied or pasted over with
+        // letters alone, asks for one euro. Pasted text keeps only its digits, as typing would
+        // have.
+        if (game::digitsOf(text).isEmpty())
             setText(QStringLiteral("1 €"));
         else if (!onlyDigitsAndSign(text))
             setText(game::digitsOf(text));

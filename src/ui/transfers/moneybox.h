@@ -18,9 +18,9 @@ namespace ui {
 // empty, and a text that reads so already comes back the same.
 QString moneyText(const QString &text);
 
-// A box for a sum of euros on the offer and contract screens. Only digits can be typed; an
-// emptied box holds "1 €" again at once, so a sum is never missing; and a box that is left
-// shows its sum in the game's way, "36150 €".
+// A box for a sum of euros on the offer and contract screens. Only digits can be typed; a box
+// left without a digit, emptied or pasted over, holds "1 €" again at once, so a sum is never
+// missing; and a box that is left shows its sum in the game's way, "36150 €".
 class MoneyBox : public QLineEdit
 {
     Q_OBJECT

@@ -1,0 +1,403 @@
+// Screens as the player meets them at their edges: the ledger's chart, the seasons' names, the
+// planner at its limits, a pasted sum, the match window, and the verdict.
+
+#include "career/crestbutton.h"
+#include "career/seasonclose.h"
+#include "match/callup.h"
+#include "reports/verdictscreen.h"
+#include "screenfixture.h"
+
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChartView>
+#include <QClipboard>
+#include <QLineSeries>
+
+#include <functional>
+#include <map>
+
+class MendsScreens : public ScreenTest
+{
+protected:
+    QString clubName(int id) { return m_store->text("select NombreEquipo from equipos where idequipo = ?", id); }
+
+    // Every label of the screen on show, by name and index, with its text.
+    std::vector<std::pair<QString, QString>> labels()
+    {
+        std::vector<std::pair<QString, QString>> texts;
+        for (QLabel *label : m_navigator->current()->findChildren<QLabel *>())
+            texts.emplace_back(label->objectName() + label->property("index").toString(), label->text());
+        return texts;
+    }
+
+    // From an open week to the verdict: the week is moved to the season's 29th, its match
+    // played, then the 30th played from the panel as the player does.
+    void playToTheVerdict()
+    {
+        ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set jornada = 29"); }).ok());
+        game::CallUp(*m_context).chooseBest();
+        game::MatchEngine *played = m_navigator->career().kickOff();
+        ASSERT_NE(played, nullptr);
+        for (int half = 0; half < 2; ++half) {
+            played->start();
+            while (played->running())
+                played->tick();
+        }
+        m_navigator->matchOver();
+        settle();
+        runWeekEvents();
+        if (m_navigator->screen(QStringLiteral("Tele")))
+            click(QStringLiteral("cmdOK"));
+        click(QStringLiteral("cmdSeguir"));
+        callUpFirstFourteen();
+        click(QStringLiteral("cmdJugar"));
+        ASSERT_NE(match(), nullptr);
+        playHalf();
+        playHalf();
+        click(QStringLiteral("cmdSalir"));
+        settle();
+    }
+};
+
+// Guards: a chart that misses a week, or draws its bars or its line from another column.
+TEST_F(MendsScreens, theLedgerChartsEachWeekOfTheSeasonFromItsRow)
+{
+    reachFirstLeagueWeek();
+    playTheWeek(true);
+    playTheWeek(false);
+    click(QStringLiteral("cmdCaja"));
+    auto *view = find<QChartView>(QStringLiteral("chartCaja"));
+    ASSERT_NE(view, nullptr);
+    QBarSeries *bars = nullptr;
+    QLineSeries *balance = nullptr;
+    for (QAbstractSeries *series : view->chart()->series()) {
+        bars = bars ? bars : qobject_cast<QBarSeries *>(series);
+        balance = balance ? balance : qobject_cast<QLineSeries *>(series);
+    }
+    ASSERT_TRUE(bars && balance && bars->count() == 2);
+    const qint64 weeks = count("caja");
+    ASSERT_EQ(weeks, 3);
+    ASSERT_EQ(balance->count(), weeks);
+    const auto set = [&](const QString &label) {
+        for (QBarSet *bar : bars->barSets()) {
+            if (bar->label() == label)
+                return bar;
+        }
+        return static_cast<QBarSet *>(nullptr);
+    };
+    ASSERT_TRUE(set(QStringLiteral("Ingresos")) && set(QStringLiteral("Gastos")));
+    for (int week = 1; week <= weeks; ++week) {
+        const int i = week - 1;
+        const std::pair<const char *, double> columns[] = {{"ingresos", set(QStringLiteral("Ingresos"))->at(i)},
+                                                           {"gastos", set(QStringLiteral("Gastos"))->at(i)},
+                                                           {"caja", balance->at(i).y()}};
+        for (const auto &[column, shown] : columns)
+            EXPECT_EQ(shown, double(m_store->integer("select " + std::string(column) + " from caja where semana = ?", week)))
+                << column << " of week " << week;
+    }
+    // The chart lies in the window beside the figures, over none of them.
+    expectTidy(QStringLiteral("ledger"));
+    const auto area = [](QWidget *widget) { return QRect(widget->mapTo(widget->window(), QPoint()), widget->size()); };
+    EXPECT_TRUE(m_window->rect().contains(area(view)));
+    for (QWidget *widget : m_navigator->current()->findChildren<QWidget *>()) {
+        const bool figure = qobject_cast<QLabel *>(widget) || qobject_cast<QAbstractButton *>(widget);
+        EXPECT_FALSE(figure && widget->isVisible() && area(widget).intersects(area(view)))
+            << widget->objectName().toStdString();
+    }
+    screenshot(QStringLiteral("ledger_chart"));
+}
+
+// Guards: a verdict that does not say which season it closes, or says the first one every
+// year; the panel and the calendar of a later season on the first one's dates; a verdict that
+// Escape takes away before it is read.
+TEST_F(MendsScreens, eachSeasonIsNamedByItsYearsOnTheVerdictThePanelAndTheCalendar)
+{
+    reachFirstLeagueWeek();
+    for (const char *years : {"2004-2005", "2005-2006"}) {
+        playToTheVerdict();
+        ASSERT_FALSE(HasFatalFailure());
+        auto *verdict = m_navigator->screen<QDialog>(QStringLiteral("Finall"));
+        ASSERT_NE(verdict, nullptr) << years;
+        EXPECT_EQ(text(QStringLiteral("lblTemporada")), QStringLiteral("Temporada ") + QLatin1String(years));
+        QTest::keyClick(verdict, Qt::Key_Escape);
+        settle();
+        ASSERT_EQ(m_navigator->screen(QStringLiteral("Finall")), verdict);
+        EXPECT_TRUE(verdict->isVisible());
+        click(QStringLiteral("cmdOK"));
+        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Pretemporada"));
+        if (QLatin1String(years) == QLatin1String("2005-2006"))
+            break;
+
+        // The second season's first week: its match and the calendar fall in 2005-2006.
+        for (int slot = 0; slot < 5; ++slot)
+            click(QStringLiteral("cmdNoJugar"));
+        click(QStringLiteral("cmdSeguir"));
+        runWeekEvents();
+        if (m_navigator->screen(QStringLiteral("Tele")))
+            click(QStringLiteral("cmdOK"));
+        EXPECT_TRUE(m_window->windowTitle().contains(QStringLiteral("/2005 "))) << m_window->windowTitle().toStdString();
+        click(QStringLiteral("c"));
+        for (int row = 0; row < 7; ++row) {
+            const QString date = indexed::find(m_navigator->current(), QStringLiteral("lblFecha"), row)->text();
+            EXPECT_TRUE(date.endsWith(QStringLiteral("/2005")) || date.endsWith(QStringLiteral("/2006"))) << row;
+        }
+        click(QStringLiteral("cmdVOLVER"));
+    }
+}
+
+// Guards: a champion shown with another club's crest, the bottom two read from the wrong end
+// of the places or named differently in the two lists, the user's place numbered as the table
+// numbers it, and a verdict that closes by anything but its OK.
+TEST_F(MendsScreens, theVerdictShowsTheChampionByItsCrestTheBottomTwoAndTheUsersStoredPlace)
+{
+    // The crests as the player chose among them, shrunk to a common size.
+    goToMenu();
+    click(QStringLiteral("Command4"));
+    std::map<int, QImage> chosenBy;
+    const auto shrunk = [](const QPixmap &crest) {
+        return crest.toImage().scaled(24, 24, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+            .convertToFormat(QImage::Format_ARGB32);
+    };
+    for (ui::CrestButton *crest : find(QStringLiteral("Liga_Manager"))->findChildren<ui::CrestButton *>())
+        chosenBy[crest->clubId()] = shrunk(crest->pixmap());
+    ASSERT_EQ(chosenBy.size(), 16u);
+    click(QStringLiteral("Command2"));
+    const auto nearest = [&](const QImage &crest) {
+        int best = 0;
+        qint64 bestDistance = 0;
+        for (const auto &[club, picture] : chosenBy) {
+            qint64 distance = 0;
+            for (int y = 0; y < 24; ++y) {
+                for (int x = 0; x < 24; ++x) {
+                    const QColor a = crest.pixelColor(x, y), b = picture.pixelColor(x, y);
+                    distance += std::abs(a.red() - b.red()) + std::abs(a.green() - b.green())
+                                + std::abs(a.blue() - b.blue()) + std::abs(a.alpha() - b.alpha());
+                }
+            }
+            if (best == 0 || distance < bestDistance) {
+                best = club;
+                bestDistance = distance;
+            }
+        }
+        return best;
+    };
+
+    reachFirstLeagueWeek();
+    const int user = club();
+    const int a = user == 1 ? 2 : 1;
+    const int b = user == 5 ? 6 : 5;
+    struct Case
+    {
+        const char *what;
+        int champion, last, secondLast;
+        const char *place;
+    };
+    const Case cases[] = {{"the user champion", user, a, b, "16"}, {"the user last", a, user, b, "1"}};
+    for (const Case &c : cases) {
+        // The season's close ranks the clubs into puesto_anterior: the champion 16, the last 1.
+        ASSERT_TRUE(m_store->run([&] {
+            m_store->execute("update asobal set puesto_anterior = teams + 100");
+            m_store->execute("update asobal set puesto_anterior = 16 where teams = ?", c.champion);
+            m_store->execute("update asobal set puesto_anterior = 1 where teams = ?", c.last);
+            m_store->execute("update asobal set puesto_anterior = 2 where teams = ?", c.secondLast);
+        }).ok());
+        ui::VerdictScreen verdict(game::SeasonClose(*m_context).verdict(), m_window.get());
+        verdict.open();
+        settle();
+        const auto shown = [&](const char *name) {
+            auto *label = verdict.findChild<QLabel *>(QString::fromLatin1(name));
+            return label ? label->text() : QStringLiteral("<no %1>").arg(QLatin1String(name));
+        };
+        EXPECT_EQ(verdict.windowTitle(), QStringLiteral("Resultados Finales"));
+        EXPECT_EQ(shown("win"), clubName(c.champion)) << c.what;
+        EXPECT_EQ(nearest(shrunk(verdict.findChild<QLabel *>(QStringLiteral("Imagen"))->pixmap())), c.champion)
+            << c.what;
+        EXPECT_EQ(shown("dos"), clubName(c.last)) << c.what;
+        EXPECT_EQ(shown("uno"), clubName(c.secondLast)) << c.what;
+        EXPECT_EQ(shown("compra1"), shown("dos")) << c.what;
+        EXPECT_EQ(shown("Compra2"), shown("uno")) << c.what;
+        EXPECT_EQ(shown("pos"), QLatin1String(c.place)) << c.what;
+        QStringList captions;
+        for (QLabel *label : verdict.findChildren<QLabel *>())
+            captions << label->text();
+        for (const char *caption : {"CAMPEÓN DE LA LIGA ASOBAL", "Desciende:", "Compra Plaza:", "Posición Alcanzada:"})
+            EXPECT_TRUE(captions.contains(QString::fromUtf8(caption))) << caption;
+        expectTidy(QString::fromUtf8(c.what), &verdict);
+        if (c.champion == user)
+            screenshot(QStringLiteral("verdict"), &verdict);
+
+        // Escape and the frame's close leave it up; its OK is the one way on.
+        QTest::keyClick(&verdict, Qt::Key_Escape);
+        EXPECT_FALSE(verdict.close());
+        settle();
+        EXPECT_TRUE(verdict.isVisible()) << c.what;
+        verdict.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+        settle();
+        EXPECT_FALSE(verdict.isVisible()) << c.what;
+        EXPECT_EQ(verdict.result(), QDialog::Accepted) << c.what;
+    }
+    // Whichever club wins, the crest is the one the player knows it by.
+    for (int champion = 1; champion <= 16; ++champion) {
+        game::SeasonClose::Verdict given;
+        given.champion = champion;
+        ui::VerdictScreen verdict(given);
+        EXPECT_EQ(nearest(shrunk(verdict.findChild<QLabel *>(QStringLiteral("Imagen"))->pixmap())), champion);
+    }
+}
+
+// Guards: a hovered crest taken for a choice; the longest name the form takes running into
+// the club's or widening the screen; "No Jugar" or a club picked with the five slots dealt
+// with that still changes something; "Borrar Partido" with none dealt with that does.
+TEST_F(MendsScreens, thePlannerTakesFiveSlotsNoMoreAndKeepsALongNameOffTheClub)
+{
+    goToMenu();
+    click(QStringLiteral("Command4"));
+    const QString nombre(50, QLatin1Char('W'));
+    const QString apellidos(50, QLatin1Char('M'));
+    type(QStringLiteral("txtNombre"), nombre);
+    type(QStringLiteral("txtApellidos"), apellidos);
+    const QString career = dump("datos_jugador");
+    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+    QApplication::sendEvent(find(QStringLiteral("IAdemar")), &enter);
+    click(QStringLiteral("cmdSeguir"));
+    EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("Selecciona un Equipo de la Liga ASOBAL")});
+    EXPECT_EQ(dump("datos_jugador"), career);
+    ASSERT_NE(find(QStringLiteral("Liga_Manager")), nullptr);
+    QTest::mouseClick(find(QStringLiteral("IAdemar")), Qt::LeftButton);
+    click(QStringLiteral("cmdSeguir"));
+    ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Pretemporada"));
+
+    EXPECT_EQ(text(QStringLiteral("lblNombre")), nombre + QLatin1Char(' ') + apellidos);
+    expectTidy(QStringLiteral("a long name"));
+    screenshot(QStringLiteral("planner_long_name"));
+
+    auto *decline = find<QPushButton>(QStringLiteral("cmdNoJugar"));
+    // An act the planner refuses leaves the button, the store and every label as they were,
+    // but for the labels that name the country and the club just picked.
+    const auto refused = [&](const char *what, const std::function<void()> &act, const QStringList &named = {}) {
+        const auto before = labels();
+        const bool enabled = decline->isEnabled();
+        const QString stored = dump("pretemporada");
+        act();
+        auto after = labels();
+        ASSERT_EQ(after.size(), before.size());
+        for (std::size_t i = 0; i < after.size(); ++i) {
+            EXPECT_TRUE(named.contains(after[i].first) || after[i] == before[i])
+                << what << ": " << after[i].first.toStdString() << " " << after[i].second.toStdString();
+        }
+        EXPECT_EQ(decline->isEnabled(), enabled) << what;
+        EXPECT_EQ(dump("pretemporada"), stored) << what;
+    };
+    refused("Borrar Partido with none dealt with", [&] { click(QStringLiteral("cmdBorrar")); });
+    EXPECT_TRUE(decline->isEnabled());
+
+    for (const bool fifthPicked : {true, false}) {
+        for (int slot = 0; slot < 4; ++slot)
+            click(QStringLiteral("cmdNoJugar"));
+        if (fifthPicked)
+            chooseClub("cmdFrancia", 0);
+        else
+            click(QStringLiteral("cmdNoJugar"));
+        const char *how = fifthPicked ? "after a fifth picked" : "after a fifth declined";
+        refused(how, [&] { QTest::mouseClick(decline, Qt::LeftButton); });
+        refused(how, [&] { chooseClub("cmdCroacia", 1); }, {QStringLiteral("lblPaisSel"), QStringLiteral("lblNombreEquipo")});
+        EXPECT_EQ(text(QStringLiteral("lblPaisSel")), QStringLiteral("CROACIA")) << how;
+        EXPECT_EQ(text(QStringLiteral("lblNombreEquipo")), find<QListWidget>(QStringLiteral("DataList1"))->item(1)->text());
+        for (int slot = 0; slot < 5; ++slot)
+            click(QStringLiteral("cmdBorrar"));
+        EXPECT_EQ(count("pretemporada"), 0) << how;
+        EXPECT_TRUE(decline->isEnabled()) << how;
+    }
+}
+
+// Guards: a pasted text without a digit leaving a box with no sum at all.
+TEST_F(MendsScreens, aPasteWithoutDigitsLeavesOneEuroAsAnEmptiedBoxDoes)
+{
+    reachFirstLeagueWeek();
+    const int player = int(m_store->integer("select min(idjugador) from jugadores where idequipo = 21"));
+    m_navigator->open(QStringLiteral("Fichar_Jugadores"),
+                      QVariantMap{{QStringLiteral("player"), player}, {QStringLiteral("listed"), false}});
+    settle();
+    const std::pair<const char *, const char *> pastes[] = {{"abc", "1 €"}, {"€", "1 €"}, {" - ", "1 €"}, {"4x5", "45"}};
+    for (const auto &[pasted, shown] : pastes) {
+        auto *box = find<QLineEdit>(QStringLiteral("txtficha"));
+        box->setFocus();
+        box->selectAll();
+        QApplication::clipboard()->setText(QString::fromUtf8(pasted));
+        box->paste();
+        EXPECT_EQ(box->text(), QString::fromUtf8(shown)) << pasted;
+    }
+}
+
+// Guards: Escape taking the television's offer away before its fee is booked.
+TEST_F(MendsScreens, escapeLeavesTheTelevisionOfferUp)
+{
+    startCareerFromMenu(QStringLiteral("IValencia"));
+    chooseClub("cmdAlemania", 0);
+    for (int slot = 1; slot < 5; ++slot)
+        click(QStringLiteral("cmdNoJugar"));
+    click(QStringLiteral("cmdSeguir"));
+    runWeekEvents();
+    auto *tele = m_navigator->screen<QDialog>(QStringLiteral("Tele"));
+    ASSERT_NE(tele, nullptr);
+    QTest::keyClick(tele, Qt::Key_Escape);
+    settle();
+    ASSERT_EQ(m_navigator->screen(QStringLiteral("Tele")), tele);
+    EXPECT_TRUE(tele->isVisible());
+    click(QStringLiteral("cmdOK"));
+    EXPECT_EQ(m_navigator->screen(QStringLiteral("Tele")), nullptr);
+}
+
+// Guards: a match window that lets the panel show round it, a score that does not follow the
+// goals in figures, and commentary lines cut at the list's edge.
+TEST_F(MendsScreens, theMatchCoversTheWindowFollowsTheScoreAndShowsEveryLineWhole)
+{
+    startCareerFromMenu(QStringLiteral("IValencia"));
+    // Long names make long lines.
+    ASSERT_TRUE(m_store->run([&] {
+        m_store->execute("update jugadores set Apellidos = Apellidos || ' de la Santísima Trinidad y Castellanos'");
+    }).ok());
+    for (int slot = 0; slot < 5; ++slot)
+        click(QStringLiteral("cmdNoJugar"));
+    click(QStringLiteral("cmdSeguir"));
+    runWeekEvents();
+    click(QStringLiteral("cmdSeguir"));
+    callUpFirstFourteen();
+    click(QStringLiteral("cmdJugar"));
+    ASSERT_NE(match(), nullptr);
+    EXPECT_EQ(QRect(match()->mapToGlobal(QPoint()), match()->size()),
+              QRect(m_window->mapToGlobal(QPoint()), m_window->size()));
+
+    for (int half = 0; half < 2; ++half) {
+        click(QStringLiteral("cmdStart"));
+        for (int guard = 0; guard < 1000 && match()->engine().running(); ++guard) {
+            const int goals = match()->engine().score(0) + match()->engine().score(1);
+            match()->tick();
+            if (match()->engine().score(0) + match()->engine().score(1) == goals)
+                continue;
+            settle();
+            for (int side = 0; side < 2; ++side) {
+                auto *score = indexed::find(match(), QStringLiteral("lblMarcador"), side);
+                ASSERT_EQ(score->text(), QString::number(match()->engine().score(side)));
+                ASSERT_GE(score->width(), score->sizeHint().width()) << "the score " << score->text().toStdString();
+            }
+        }
+    }
+    settle();
+    EXPECT_GT(match()->engine().score(0) + match()->engine().score(1), 10);
+
+    auto *lines = find<QListWidget>(QStringLiteral("list2"));
+    EXPECT_EQ(lines->horizontalScrollBar()->maximum(), 0);
+    const QFontMetrics metrics(lines->font());
+    int longest = 0;
+    for (int row = 0; row < lines->count(); ++row) {
+        QListWidgetItem *line = lines->item(row);
+        const QRect room = lines->visualItemRect(line);
+        const QRect needed = metrics.boundingRect(QRect(0, 0, room.width(), 10000), Qt::TextWordWrap, line->text());
+        EXPECT_LE(room.right(), lines->viewport()->width()) << line->text().toStdString();
+        EXPECT_LE(needed.height(), room.height()) << line->text().toStdString();
+        longest = std::max(longest, metrics.horizontalAdvance(line->text()));
+    }
+    EXPECT_GT(longest, lines->viewport()->width()); // some line had to wrap
+    screenshot(QStringLiteral("match_long_lines"), match());
+}
