@@ -34,7 +34,7 @@ protected:
     // played, then the 30th played from the panel as the player does.
     void playToTheVerdict()
     {
-        ASSERT_TRUE(m_store->run([&] { m_store->execute("update datos_jugador set jornada = 29"); }).ok());
+        exec("update datos_jugador set jornada = 29");
         game::CallUp(*m_context).chooseBest();
         game::MatchEngine *played = m_navigator->career().kickOff();
         ASSERT_NE(played, nullptr);
@@ -195,12 +195,8 @@ TEST_F(MendsScreens, theVerdictShowsTheChampionByItsCrestTheBottomTwoAndTheUsers
     const Case cases[] = {{"the user champion", user, a, b, "16"}, {"the user last", a, user, b, "1"}};
     for (const Case &c : cases) {
         // The season's close ranks the clubs into puesto_anterior: the champion 16, the last 1.
-        ASSERT_TRUE(m_store->run([&] {
-            m_store->execute("update asobal set puesto_anterior = teams + 100");
-            m_store->execute("update asobal set puesto_anterior = 16 where teams = ?", c.champion);
-            m_store->execute("update asobal set puesto_anterior = 1 where teams = ?", c.last);
-            m_store->execute("update asobal set puesto_anterior = 2 where teams = ?", c.secondLast);
-        }).ok());
+        exec("update asobal set puesto_anterior = case teams when ?1 then 16 when ?2 then 1 when ?3 then 2"
+             " else teams + 100 end", c.champion, c.last, c.secondLast);
         ui::VerdictScreen verdict(game::SeasonClose(*m_context).verdict(), m_window.get());
         verdict.open();
         settle();
@@ -354,9 +350,7 @@ TEST_F(MendsScreens, theMatchCoversTheWindowFollowsTheScoreAndShowsEveryLineWhol
 {
     startCareerFromMenu(QStringLiteral("IValencia"));
     // Long names make long lines.
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("update jugadores set Apellidos = Apellidos || ' de la Santísima Trinidad y Castellanos'");
-    }).ok());
+    exec("update jugadores set Apellidos = Apellidos || ' de la Santísima Trinidad y Castellanos'");
     for (int slot = 0; slot < 5; ++slot)
         click(QStringLiteral("cmdNoJugar"));
     click(QStringLiteral("cmdSeguir"));
