@@ -8,6 +8,9 @@ using game::Market;
 class MarketTest : public CareerTest
 {
 protected:
+    static constexpr Market::Group kGroups[] = {Market::Group::Goalkeepers, Market::Group::Wings, Market::Group::Backs,
+                                                Market::Group::Centres};
+
     void SetUp() override
     {
         CareerTest::SetUp();
@@ -27,63 +30,65 @@ protected:
         return std::any_of(lines.begin(), lines.end(), [id](const Market::Line &line) { return line.id == id; });
     }
 
-    void list(int player)
+    // A line of the market's lists, every column, and the player's row read the same way.
+    static QString lineOf(const Market::Line &l)
     {
-        ASSERT_TRUE(m_store->run([&] { m_store->execute("update jugadores set venta = 1 where idjugador = ?", player); }).ok());
+        return QStringList{QString::number(l.id), l.nombre, l.apellidos, QString::number(l.edad), l.posicion,
+                           QString::number(l.media), QString::number(l.dorsal), l.nacionalidad,
+                           QString::number(l.years), QString::number(l.club)}
+            .join(QLatin1Char('|'));
+    }
+    QString rowOf(int id)
+    {
+        return text("select idjugador || '|' || Nombre || '|' || Apellidos || '|' || Edad || '|' || Posicion || '|' || Media"
+                    " || '|' || Dorsal || '|' || Nacionalidad || '|' || \"Años_Contrato\" || '|' || idequipo"
+                    " from jugadores where idjugador = ?",
+                    id);
     }
 
     int firstOf(const char *position, int club)
     {
-        return int(m_store->integer("select min(idjugador) from jugadores where Posicion = ? and idequipo = ?", position, club));
+        return int(value("select min(idjugador) from jugadores where Posicion = ? and idequipo = ?", position, club));
     }
 };
 
-// Guards: a grid that lists a pivot, leaves out the user's own listed players, or puts a
-// player in the wrong group.
+// Guards: a grid that lists a pivot, leaves out the user's own listed players, puts a player
+// in the wrong group or shows a column of another; the user's squad by the same groups.
 TEST_F(MarketTest, theFourSaleGridsTakeEveryListedPlayerButThePivots)
 {
-    ASSERT_TRUE(m_store->run([&] { m_store->execute("update jugadores set venta = 0"); }).ok());
-    const int keeper = firstOf("Portero", 20);
-    const int wing = firstOf("Extremo Derecho", 21);
-    const int back = firstOf("Lateral Izquierdo", 22);
-    const int centre = firstOf("Central", kClub);
+    exec("update jugadores set venta = 0");
+    const std::vector<int> listed = {firstOf("Portero", 20), firstOf("Extremo Derecho", 21),
+                                     firstOf("Lateral Izquierdo", 22), firstOf("Central", kClub)};
     const int pivot = firstOf("Pivote", 23);
-    for (int player : {keeper, wing, back, centre, pivot})
-        list(player);
+    exec("update jugadores set venta = 1 where idjugador in (?, ?, ?, ?, ?)", listed[0], listed[1], listed[2], listed[3],
+         pivot);
     Market market(*m_context);
-    EXPECT_EQ(ids(market.forSale(Market::Group::Goalkeepers)), std::vector<int>{keeper});
-    EXPECT_EQ(ids(market.forSale(Market::Group::Wings)), std::vector<int>{wing});
-    EXPECT_EQ(ids(market.forSale(Market::Group::Backs)), std::vector<int>{back});
-    EXPECT_EQ(ids(market.forSale(Market::Group::Centres)), std::vector<int>{centre});
-    for (auto group : {Market::Group::Goalkeepers, Market::Group::Wings, Market::Group::Backs, Market::Group::Centres})
-        EXPECT_FALSE(has(market.forSale(group), pivot));
-
-    // The user's squad in the same four groups, with the contracts' years; no pivot either.
-    const auto centres = market.squad(Market::Group::Centres);
-    EXPECT_TRUE(has(centres, centre));
-    EXPECT_GT(centres.front().years, 0);
-    std::size_t listed = 0;
-    for (auto group : {Market::Group::Goalkeepers, Market::Group::Wings, Market::Group::Backs, Market::Group::Centres})
-        listed += market.squad(group).size();
-    EXPECT_EQ(qint64(listed), m_store->integer("select count(*) from jugadores where idequipo = ? and Posicion <> 'Pivote'", kClub));
+    std::size_t squad = 0;
+    for (std::size_t group = 0; group < 4; ++group) {
+        const std::vector<Market::Line> lines = market.forSale(kGroups[group]);
+        ASSERT_EQ(ids(lines), std::vector<int>{listed[group]}) << group;
+        EXPECT_EQ(lineOf(lines.front()), rowOf(listed[group]));
+        squad += market.squad(kGroups[group]).size();
+    }
+    EXPECT_TRUE(has(market.squad(Market::Group::Centres), listed[3]));
+    EXPECT_EQ(qint64(squad), value("select count(*) from jugadores where idequipo = ? and Posicion <> 'Pivote'", kClub));
 }
 
-// Guards: the user's club offered to himself in Spain's list, or another country's list
-// that leaves a club out.
+// Guards: the user's club offered to himself in Spain's list, another country's list that
+// leaves a club out, or a club's players missing.
 TEST_F(MarketTest, spainsClubsLeaveOutTheUsersOwnAndEveryClubIsListedAtFirst)
 {
     Market market(*m_context);
-    const QStringList spain = market.clubsOf(1);
-    const QString own = m_store->text("select NombreEquipo from equipos where idequipo = ?", kClub);
-    EXPECT_FALSE(spain.contains(own));
-    EXPECT_EQ(spain.size(), m_store->integer("select count(*) from equipos where codpais = 1") - 1);
-    EXPECT_EQ(market.clubsOf(2).size(), m_store->integer("select count(*) from equipos where codpais = 2"));
+    const QString own = text("select NombreEquipo from equipos where idequipo = ?", kClub);
+    EXPECT_FALSE(market.clubsOf(1).contains(own));
+    EXPECT_EQ(market.clubsOf(1).size(), value("select count(*) from equipos where codpais = 1") - 1);
+    EXPECT_EQ(market.clubsOf(2).size(), value("select count(*) from equipos where codpais = 2"));
     EXPECT_EQ(market.clubsOf(0).size(), 85);
     EXPECT_TRUE(market.clubsOf(0).contains(own));
     const QString club = market.clubsOf(2).front();
     EXPECT_EQ(qint64(market.playersOf(club).size()),
-              m_store->integer("select count(*) from jugadores j join equipos e on e.idequipo = j.idequipo"
-                               " where e.NombreEquipo = ?", club));
+              value("select count(*) from jugadores j join equipos e on e.idequipo = j.idequipo where e.NombreEquipo = ?",
+                    club));
 }
 
 struct SearchCase {
@@ -96,20 +101,17 @@ class ScoutSearch : public MarketTest, public ::testing::WithParamInterface<Sear
 {};
 
 // Guards: the scout's criteria applied in another precedence than the game's: a rating or an
-// age that should replace the position, an age that should give way to a rating, or the full
-// search that should apply all five.
+// age that should replace the position, an age that should give way to a rating, or a blank
+// or mixed-case name box read as typed.
 TEST_P(ScoutSearch, appliesItsCriteriaInTheGamesPrecedence)
 {
     const SearchCase &c = GetParam();
-    const auto found = ids(Market(*m_context).search(c.criteria));
     std::vector<int> expected;
-    {
-        auto rows = m_store->query(std::string("select idjugador from jugadores where ") + c.where + " order by idjugador");
-        while (rows.next())
-            expected.push_back(rows.integer(0));
-    }
+    for (auto rows = m_store->query(std::string("select idjugador from jugadores where ") + c.where + " order by idjugador");
+         rows.next();)
+        expected.push_back(rows.integer(0));
     EXPECT_FALSE(expected.empty());
-    EXPECT_EQ(found, expected);
+    EXPECT_EQ(ids(Market(*m_context).search(c.criteria)), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -129,7 +131,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(MarketTest, theFullSearchAppliesAllFiveCriteria)
 {
     const int player = firstOf("Lateral Derecho", 25);
-    auto card = Market(*m_context).card(player);
+    const auto card = Market(*m_context).card(player);
     ASSERT_TRUE(card.has_value());
     Market::Search full{card->nombre, card->apellidos.left(3), QStringLiteral("Lateral"), QString::number(card->media),
                         QString::number(card->edad)};
@@ -152,11 +154,8 @@ TEST_F(MarketTest, everybodyStandsByFirstNameAsASpanishReaderOrdersThem)
     ASSERT_EQ(qint64(all.size()), count("jugadores"));
     // The initials, without their accents, never go back in the alphabet.
     QString initials;
-    for (const Market::Line &line : all) {
-        const QChar initial = line.nombre.normalized(QString::NormalizationForm_D).at(0).toUpper();
-        if (initials.isEmpty() || initials.back() != initial)
-            initials += initial;
-    }
+    for (const Market::Line &line : all)
+        initials += line.nombre.normalized(QString::NormalizationForm_D).at(0).toUpper();
     QString sorted = initials;
     std::sort(sorted.begin(), sorted.end());
     EXPECT_EQ(initials, sorted);
@@ -166,10 +165,8 @@ TEST_F(MarketTest, everybodyStandsByFirstNameAsASpanishReaderOrdersThem)
 // picks another club: the planner's rival or the players a club shows.
 TEST_F(MarketTest, aClubIsFoundByItsExactName)
 {
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("update equipos set NombreEquipo = 'Club X' where idequipo = 17");
-        m_store->execute("update equipos set NombreEquipo = 'Club_X' where idequipo = 18");
-    }).ok());
+    exec("update equipos set NombreEquipo = 'Club X' where idequipo = 17");
+    exec("update equipos set NombreEquipo = 'Club_X' where idequipo = 18");
     const std::vector<Market::Line> players = Market(*m_context).playersOf(QStringLiteral("Club_X"));
     ASSERT_FALSE(players.empty());
     for (const Market::Line &line : players)
@@ -177,24 +174,23 @@ TEST_F(MarketTest, aClubIsFoundByItsExactName)
     game::Preseason planner(*m_context);
     planner.begin();
     ASSERT_EQ(planner.choose(QStringLiteral("Club_X")), 0);
-    EXPECT_EQ(m_store->integer("select equipo_local from pretemporada where idpartido = 1"), 18);
+    EXPECT_EQ(value("select equipo_local from pretemporada where idpartido = 1"), 18);
 }
 
 // Guards: youths of another position or club, or a card that misses the injury's name.
 TEST_F(MarketTest, theYouthPoolByPositionAndAPlayersCard)
 {
     Market market(*m_context);
-    for (const Market::Line &youth : market.youths(QStringLiteral("Portero")))
-        EXPECT_EQ(youth.posicion, QStringLiteral("Portero"));
-    EXPECT_EQ(qint64(market.youths(QStringLiteral("Portero")).size()),
-              m_store->integer("select count(*) from jugadores where idequipo = 84 and Posicion = 'Portero'"));
+    const std::vector<Market::Line> youths = market.youths(QStringLiteral("Portero"));
+    EXPECT_EQ(qint64(youths.size()), value("select count(*) from jugadores where idequipo = 84 and Posicion = 'Portero'"));
+    for (const Market::Line &youth : youths)
+        EXPECT_EQ(youth.posicion + QString::number(youth.club), QStringLiteral("Portero84"));
 
-    const int player = firstOf("Central", kClub);
-    const auto card = market.card(player);
+    const auto card = market.card(firstOf("Central", kClub));
     ASSERT_TRUE(card.has_value());
     EXPECT_EQ(card->club, kClub);
-    EXPECT_EQ(card->equipo, m_store->text("select NombreEquipo from equipos where idequipo = ?", kClub));
-    EXPECT_EQ(card->lesion, m_store->text("select nombre_lesion from lesiones where idlesion = 0"));
+    EXPECT_EQ(card->equipo, text("select NombreEquipo from equipos where idequipo = ?", kClub));
+    EXPECT_EQ(card->lesion, text("select nombre_lesion from lesiones where idlesion = 0"));
     EXPECT_FALSE(market.card(999999).has_value());
 }
 
@@ -203,12 +199,10 @@ TEST_F(MarketTest, theYouthPoolByPositionAndAPlayersCard)
 // draw among the lists that skips one or reaches past the last.
 TEST_F(MarketTest, theDrawForSaleTakesOnlyWhatTheFourGridsShowButOneClubs)
 {
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("update jugadores set venta = 1 where idjugador % 7 = 0");
-    }).ok());
+    exec("update jugadores set venta = 1 where idjugador % 7 = 0");
     Market market(*m_context);
     std::vector<int> fromGrids;
-    for (auto group : {Market::Group::Goalkeepers, Market::Group::Wings, Market::Group::Backs, Market::Group::Centres}) {
+    for (const Market::Group group : kGroups) {
         for (const Market::Line &line : market.forSale(group)) {
             if (line.club != kClub)
                 fromGrids.push_back(line.id);
@@ -216,20 +210,20 @@ TEST_F(MarketTest, theDrawForSaleTakesOnlyWhatTheFourGridsShowButOneClubs)
     }
     std::sort(fromGrids.begin(), fromGrids.end());
     ASSERT_FALSE(fromGrids.empty());
-    const int highest = int(m_store->integer("select max(idjugador) from jugadores"));
-    const int unlisted = int(m_store->integer("select min(idjugador) from jugadores where venta = 0"));
-    const int ownListed = int(m_store->integer(
-        "select min(idjugador) from jugadores where venta = 1 and idequipo = ? and Posicion <> 'Pivote'", kClub));
-    const int listedPivot = int(m_store->integer(
-        "select min(idjugador) from jugadores where venta = 1 and idequipo <> ? and Posicion = 'Pivote'", kClub));
-    ASSERT_GT(ownListed, 0);
-    ASSERT_GT(listedPivot, 0);
+    const int highest = int(value("select max(idjugador) from jugadores"));
+    const int unlisted = int(value("select min(idjugador) from jugadores where venta = 0"));
+    const int ownListed = int(value("select min(idjugador) from jugadores where venta = 1 and idequipo = ?"
+                                    " and Posicion <> 'Pivote'",
+                                    kClub));
+    const int listedPivot = int(value("select min(idjugador) from jugadores where venta = 1 and idequipo <> ?"
+                                      " and Posicion = 'Pivote'",
+                                      kClub));
+    ASSERT_GT(ownListed * listedPivot, 0);
 
     // Blind draws on a player not listed, the club's own listed man and a listed pivot miss;
     // the next, on a listed player of another club, is taken.
-    for (int miss : {unlisted, ownListed, listedPivot})
-        m_random.scriptDraw(miss, highest);
-    m_random.scriptDraw(fromGrids.back(), highest);
+    for (int drawn : {unlisted, ownListed, listedPivot, fromGrids.back()})
+        m_random.scriptDraw(drawn, highest);
     EXPECT_EQ(market.drawForSale(kClub), fromGrids.back());
 
     // When every blind draw misses, the lists are counted and each of them can be drawn, in
@@ -242,8 +236,6 @@ TEST_F(MarketTest, theDrawForSaleTakesOnlyWhatTheFourGridsShowButOneClubs)
     }
 
     // A market with nobody but the club's own: no player, whatever the draws.
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("update jugadores set venta = 0 where idequipo <> ?", kClub);
-    }).ok());
+    exec("update jugadores set venta = 0 where idequipo <> ?", kClub);
     EXPECT_EQ(market.drawForSale(kClub), 0);
 }
