@@ -25,18 +25,14 @@ protected:
         return found;
     }
 
-    static bool has(const std::vector<Market::Line> &lines, int id)
+    // The market's lines, every column, and a player's row read the same way.
+    static QStringList linesOf(const std::vector<Market::Line> &lines)
     {
-        return std::any_of(lines.begin(), lines.end(), [id](const Market::Line &line) { return line.id == id; });
-    }
-
-    // A line of the market's lists, every column, and the player's row read the same way.
-    static QString lineOf(const Market::Line &l)
-    {
-        return QStringList{QString::number(l.id), l.nombre, l.apellidos, QString::number(l.edad), l.posicion,
-                           QString::number(l.media), QString::number(l.dorsal), l.nacionalidad,
-                           QString::number(l.years), QString::number(l.club)}
-            .join(QLatin1Char('|'));
+        QStringList texts;
+        for (const Market::Line &l : lines)
+            texts << QStringLiteral("%1|%2|%3|%4|%5|%6|%7|%8|%9|%10").arg(l.id).arg(l.nombre, l.apellidos).arg(l.edad).arg(l.posicion)
+                         .arg(l.media).arg(l.dorsal).arg(l.nacionalidad).arg(l.years).arg(l.club);
+        return texts;
     }
     QString rowOf(int id)
     {
@@ -65,17 +61,14 @@ TEST_F(MarketTest, theFourSaleGridsTakeEveryListedPlayerButThePivots)
     Market market(*m_context);
     std::size_t squad = 0;
     for (std::size_t group = 0; group < 4; ++group) {
-        const std::vector<Market::Line> lines = market.forSale(kGroups[group]);
-        ASSERT_EQ(ids(lines), std::vector<int>{listed[group]}) << group;
-        EXPECT_EQ(lineOf(lines.front()), rowOf(listed[group]));
+        EXPECT_EQ(linesOf(market.forSale(kGroups[group])), QStringList{rowOf(listed[group])}) << group;
         squad += market.squad(kGroups[group]).size();
     }
-    EXPECT_TRUE(has(market.squad(Market::Group::Centres), listed[3]));
     EXPECT_EQ(qint64(squad), value("select count(*) from jugadores where idequipo = ? and Posicion <> 'Pivote'", kClub));
 }
 
-// Guards: the user's club offered to himself in Spain's list, another country's list that
-// leaves a club out, or a club's players missing.
+// Guards: the user's club offered to himself in Spain's list, or another country's list that
+// leaves a club out.
 TEST_F(MarketTest, spainsClubsLeaveOutTheUsersOwnAndEveryClubIsListedAtFirst)
 {
     Market market(*m_context);
@@ -83,12 +76,7 @@ TEST_F(MarketTest, spainsClubsLeaveOutTheUsersOwnAndEveryClubIsListedAtFirst)
     EXPECT_FALSE(market.clubsOf(1).contains(own));
     EXPECT_EQ(market.clubsOf(1).size(), value("select count(*) from equipos where codpais = 1") - 1);
     EXPECT_EQ(market.clubsOf(2).size(), value("select count(*) from equipos where codpais = 2"));
-    EXPECT_EQ(market.clubsOf(0).size(), 85);
     EXPECT_TRUE(market.clubsOf(0).contains(own));
-    const QString club = market.clubsOf(2).front();
-    EXPECT_EQ(qint64(market.playersOf(club).size()),
-              value("select count(*) from jugadores j join equipos e on e.idequipo = j.idequipo where e.NombreEquipo = ?",
-                    club));
 }
 
 struct SearchCase {
@@ -101,8 +89,8 @@ class ScoutSearch : public MarketTest, public ::testing::WithParamInterface<Sear
 {};
 
 // Guards: the scout's criteria applied in another precedence than the game's: a rating or an
-// age that should replace the position, an age that should give way to a rating, or a blank
-// or mixed-case name box read as typed.
+// age that should replace the position, an age that should give way to a rating, a blank or
+// mixed-case name box read as typed, or the full search losing one of its five criteria.
 TEST_P(ScoutSearch, appliesItsCriteriaInTheGamesPrecedence)
 {
     const SearchCase &c = GetParam();
@@ -110,7 +98,7 @@ TEST_P(ScoutSearch, appliesItsCriteriaInTheGamesPrecedence)
     for (auto rows = m_store->query(std::string("select idjugador from jugadores where ") + c.where + " order by idjugador");
          rows.next();)
         expected.push_back(rows.integer(0));
-    EXPECT_FALSE(expected.empty());
+    EXPECT_EQ(expected.empty(), std::string(c.where) == "0");
     EXPECT_EQ(ids(Market(*m_context).search(c.criteria)), expected);
 }
 
@@ -124,27 +112,11 @@ INSTANTIATE_TEST_SUITE_P(
         SearchCase{"ratingReplacesAge", {{}, {}, {}, QStringLiteral("70"), QStringLiteral("25")}, "Media = 70"},
         SearchCase{"ageAlone", {{}, {}, QStringLiteral("Portero"), {}, QStringLiteral("25")}, "Edad = 25"},
         SearchCase{"blankNamesMatchAll", {QStringLiteral("  "), {}, {}, {}, QStringLiteral("25")}, "Edad = 25"},
-        SearchCase{"namePrefixIgnoringCase", {QStringLiteral("ju"), {}, {}, {}, {}}, "Nombre like 'ju%'"}),
+        SearchCase{"namePrefixIgnoringCase", {QStringLiteral("ju"), {}, {}, {}, {}}, "Nombre like 'ju%'"},
+        SearchCase{"allFive", {QStringLiteral("Markus"), QStringLiteral("Mey"), QStringLiteral("Lateral"), QStringLiteral("67"), QStringLiteral("26")},
+                   "Nombre like 'Markus%' and Apellidos like 'Mey%' and Posicion like 'Lateral%' and Media = 67 and Edad = 26"},
+        SearchCase{"allFiveWithAnotherPosition", {QStringLiteral("Markus"), QStringLiteral("Mey"), QStringLiteral("Portero"), QStringLiteral("67"), QStringLiteral("26")}, "0"}),
     [](const auto &info) { return std::string(info.param.name); });
-
-// Guards: the full search losing one of its five criteria.
-TEST_F(MarketTest, theFullSearchAppliesAllFiveCriteria)
-{
-    const int player = firstOf("Lateral Derecho", 25);
-    const auto card = Market(*m_context).card(player);
-    ASSERT_TRUE(card.has_value());
-    Market::Search full{card->nombre, card->apellidos.left(3), QStringLiteral("Lateral"), QString::number(card->media),
-                        QString::number(card->edad)};
-    const auto found = Market(*m_context).search(full);
-    EXPECT_TRUE(has(found, player));
-    for (const Market::Line &line : found) {
-        EXPECT_TRUE(line.posicion.startsWith(QStringLiteral("Lateral")));
-        EXPECT_EQ(line.edad, card->edad);
-        EXPECT_EQ(line.media, card->media);
-    }
-    full.posicion = QStringLiteral("Portero");
-    EXPECT_TRUE(Market(*m_context).search(full).empty());
-}
 
 // Guards: the scout's starting list in the order of the bytes, which puts Álvaro, Óscar and
 // Željko after every plain Z.
@@ -177,23 +149,6 @@ TEST_F(MarketTest, aClubIsFoundByItsExactName)
     EXPECT_EQ(value("select equipo_local from pretemporada where idpartido = 1"), 18);
 }
 
-// Guards: youths of another position or club, or a card that misses the injury's name.
-TEST_F(MarketTest, theYouthPoolByPositionAndAPlayersCard)
-{
-    Market market(*m_context);
-    const std::vector<Market::Line> youths = market.youths(QStringLiteral("Portero"));
-    EXPECT_EQ(qint64(youths.size()), value("select count(*) from jugadores where idequipo = 84 and Posicion = 'Portero'"));
-    for (const Market::Line &youth : youths)
-        EXPECT_EQ(youth.posicion + QString::number(youth.club), QStringLiteral("Portero84"));
-
-    const auto card = market.card(firstOf("Central", kClub));
-    ASSERT_TRUE(card.has_value());
-    EXPECT_EQ(card->club, kClub);
-    EXPECT_EQ(card->equipo, text("select NombreEquipo from equipos where idequipo = ?", kClub));
-    EXPECT_EQ(card->lesion, text("select nombre_lesion from lesiones where idlesion = 0"));
-    EXPECT_FALSE(market.card(999999).has_value());
-}
-
 // Guards: the busy manager's draw straying from what the four sale grids show (a pivot, his
 // own man, a player not listed), a blind draw that lands on such a player and is taken, or a
 // draw among the lists that skips one or reaches past the last.
@@ -202,22 +157,16 @@ TEST_F(MarketTest, theDrawForSaleTakesOnlyWhatTheFourGridsShowButOneClubs)
     exec("update jugadores set venta = 1 where idjugador % 7 = 0");
     Market market(*m_context);
     std::vector<int> fromGrids;
-    for (const Market::Group group : kGroups) {
-        for (const Market::Line &line : market.forSale(group)) {
+    for (const Market::Group group : kGroups)
+        for (const Market::Line &line : market.forSale(group))
             if (line.club != kClub)
                 fromGrids.push_back(line.id);
-        }
-    }
     std::sort(fromGrids.begin(), fromGrids.end());
     ASSERT_FALSE(fromGrids.empty());
     const int highest = int(value("select max(idjugador) from jugadores"));
     const int unlisted = int(value("select min(idjugador) from jugadores where venta = 0"));
-    const int ownListed = int(value("select min(idjugador) from jugadores where venta = 1 and idequipo = ?"
-                                    " and Posicion <> 'Pivote'",
-                                    kClub));
-    const int listedPivot = int(value("select min(idjugador) from jugadores where venta = 1 and idequipo <> ?"
-                                      " and Posicion = 'Pivote'",
-                                      kClub));
+    const int ownListed = int(value("select min(idjugador) from jugadores where venta = 1 and idequipo = ? and Posicion <> 'Pivote'", kClub));
+    const int listedPivot = int(value("select min(idjugador) from jugadores where venta = 1 and idequipo <> ? and Posicion = 'Pivote'", kClub));
     ASSERT_GT(ownListed * listedPivot, 0);
 
     // Blind draws on a player not listed, the club's own listed man and a listed pivot miss;

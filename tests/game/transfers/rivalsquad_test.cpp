@@ -133,24 +133,6 @@ TEST_F(RivalSquadTest, aTieAtTheTopBringsInTheFirstDrawnPlayerOfThePositionFromA
     EXPECT_EQ(m_random.uniform(), kSentinel);
 }
 
-// Guards: a position left empty, or a newcomer who does not become the club's own.
-TEST_F(RivalSquadTest, aMissingPositionIsFilledAndTheNewcomerStaysTheClubsBest)
-{
-    exec("update jugadores set idequipo = 30 where idjugador in (31, 32, 33)"); // the rival's pivots
-    scriptDraws({kLowestPivotAbroad});
-    prepare(kRival);
-    EXPECT_EQ(sheet(), sheetOf(kRival, kRivalBest, 6, kLowestPivotAbroad));
-
-    // The next week against the same club needs no newcomer.
-    exec("delete from jugar");
-    const QString players = dump("jugadores");
-    m_random.script({kSentinel});
-    prepare(kRival);
-    EXPECT_EQ(sheet(), sheetOf(kRival, kRivalBest, 6, kLowestPivotAbroad));
-    EXPECT_EQ(dump("jugadores"), players);
-    EXPECT_EQ(m_random.uniform(), kSentinel);
-}
-
 // Guards: a draw that never ends, that stops early or late, or a fallback that ignores the
 // club or position rules.
 TEST_F(RivalSquadTest, afterTheLastFailedDrawTheLowestQualifyingIdComesIn)
