@@ -4,6 +4,7 @@
 #include "match/matchday.h"
 #include "match/tactics.h"
 
+#include <tuple>
 #include <utility>
 
 using game::CallUp;
@@ -48,9 +49,8 @@ TEST_F(CallUpTest, placesEachPlayerInOnePlaceAndNobodyWithoutAPlaceOrOfAnotherCl
     EXPECT_EQ(placeOf(0), QStringLiteral("PORTERO: PORTERO  - "));
     ASSERT_TRUE(callUp.place(8, m_ids[2])); // the occupant goes out of the squad
     ASSERT_TRUE(callUp.place(8, m_ids[2])); // the same place again leaves him there
-    EXPECT_EQ(value("select count(*) from miequipo where idjugador <> 0"), 2);
-    EXPECT_EQ(placesOf(1), 1);
-    EXPECT_EQ(placesOf(m_ids[1]), 0);
+    EXPECT_EQ(std::tuple(value("select count(*) from miequipo where idjugador <> 0"), placesOf(1), placesOf(m_ids[1])),
+              std::tuple(2, 1, 0));
     EXPECT_EQ(placeOf(8), QStringLiteral("SUPLENTE2: ")
                               + text("select Nombre || ' ' || Apellidos || ' - ' || Posicion from jugadores"
                                      " where idjugador = ?",
@@ -93,10 +93,11 @@ TEST_F(CallUpTest, tacticsStoreTheCodeOfEachSystemAndTouchNoPrice)
     Tactics tactics(*m_context);
     const QString prices = dump("entradas where idPrecio in (1, 2)");
     EXPECT_EQ(tactics.attackCode(), 1);
-    tactics.setAttack(Tactics::attacks().indexOf(QStringLiteral("2-2-2")) + 1);
-    EXPECT_EQ(tactics.attackCode(), 2);
-    tactics.setAttack(1);
-    EXPECT_EQ(tactics.attackCode(), 1);
+    for (const int code : {2, 1}) {
+        tactics.setAttack(code);
+        EXPECT_EQ(tactics.attackCode(), code);
+    }
+    EXPECT_EQ(Tactics::attacks().indexOf(QStringLiteral("2-2-2")), 1);
     tactics.setDefence(Tactics::defences().indexOf(QStringLiteral("3-2-1")) + 1);
     EXPECT_EQ(tactics.defenceCode(), 4);
     tactics.setDefence(9); // no such system: nothing changes
@@ -109,10 +110,9 @@ TEST_F(CallUpTest, tacticsStoreTheCodeOfEachSystemAndTouchNoPrice)
         EXPECT_EQ(Tactics::defencePicture(code), defencePictures[code - 1]) << code;
     }
     EXPECT_EQ(tactics.attackCode(), 1);
-    EXPECT_EQ(Tactics::attackPicture(1), 8);
-    EXPECT_EQ(Tactics::attackPicture(2), 1);
-    for (int outside : {0, 3})
-        EXPECT_EQ(Tactics::attackPicture(outside), 0) << outside;
+    const int attackPictures[] = {0, 8, 1, 0}; // codes 0 to 3
+    for (int code = 0; code <= 3; ++code)
+        EXPECT_EQ(Tactics::attackPicture(code), attackPictures[code]) << code;
     EXPECT_EQ(Tactics::defencePicture(6), 0);
     EXPECT_EQ(dump("entradas where idPrecio in (1, 2)"), prices);
 }

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <utility>
 
 using game::MatchEngine;
 using Line = MatchEngine::Line;
@@ -28,15 +29,6 @@ MatchEngine::Setup setupWithRatings(int fieldRating, bool userAtHome = true)
     for (int i = 1; i <= 6; ++i)
         setup.rival.push_back({QStringLiteral("Rival %1").arg(i), 70, false});
     return setup;
-}
-
-void playOut(MatchEngine &engine)
-{
-    for (int half = 0; half < 2; ++half) {
-        engine.start();
-        while (engine.running())
-            engine.tick();
-    }
 }
 
 } // namespace
@@ -82,11 +74,9 @@ TEST_F(EngineTest, theHalvesEndAtThirtyAndSixtyAndTheClockJumpsToThirtyTwo)
     MatchEngine engine(m_random, setupWithRatings(70, false)); // the user is away: side 1
     action(false, 1, true, 155, 2);
     engine.start();
-    EXPECT_EQ(engine.possession(0), 100);
-    EXPECT_EQ(engine.possession(1), 0);
+    EXPECT_EQ(std::pair(engine.possession(0), engine.possession(1)), std::pair(100, 0));
     playUntil(engine, 3); // two actions of the user's
-    EXPECT_EQ(engine.possession(0), 33);
-    EXPECT_EQ(engine.possession(1), 67);
+    EXPECT_EQ(std::pair(engine.possession(0), engine.possession(1)), std::pair(33, 67));
     playUntil(engine, 29);
     action(true, 2, false, 1, 1); // the clock stands still at 29: the shot is played
     engine.tick();
@@ -170,18 +160,15 @@ TEST_F(EngineTest, anExchangeSwapsTheRowsAsPickedAndTheScorersFollowTheMen)
     engine.pick(MatchEngine::kRows);
     engine.pick(0);
     EXPECT_FALSE(engine.exchange()); // the goalkeeper alone: nothing, and the pick stays
-    EXPECT_EQ(engine.pickedStarter(), 0);
-    EXPECT_EQ(engine.pickedSubstitute(), -1);
+    EXPECT_EQ(std::pair(engine.pickedStarter(), engine.pickedSubstitute()), std::pair(0, -1));
     engine.pick(13);
     ASSERT_TRUE(engine.exchange());
-    EXPECT_EQ(engine.pickedStarter(), -1);
-    EXPECT_EQ(engine.pickedSubstitute(), -1);
+    EXPECT_EQ(std::pair(engine.pickedStarter(), engine.pickedSubstitute()), std::pair(-1, -1));
     EXPECT_EQ(engine.row(0).name, QStringLiteral("Jugador 13"));
 
     action(true, 1, false, 1); // row 1 (player 101) scores
     engine.start();
-    const MatchEngine::Row scorer = engine.row(1);
-    const MatchEngine::Row substitute = engine.row(8);
+    const MatchEngine::Row scorer = engine.row(1), substitute = engine.row(8);
     engine.pick(1);
     engine.pick(8);
     action(true, 1, false, 1); // and again, between the pick and the exchange
@@ -197,24 +184,16 @@ TEST_F(EngineTest, anExchangeSwapsTheRowsAsPickedAndTheScorersFollowTheMen)
     EXPECT_EQ(engine.scorers(), (std::map<int, int>{{101, 2}, {108, 1}}));
 }
 
-// Guards: a system announced when it has not changed, in other words, or that weighs in the
-// result, which it must not.
-TEST(EngineSystems, aSystemIsToldOnlyWhenItChangesAndNeverWeighsInTheResult)
+// Guards: a system announced at kick-off in other words, or again when it has not changed.
+TEST_F(EngineTest, aSystemIsToldAtKickOffAndOnlyWhenItChanges)
 {
-    std::vector<std::pair<int, int>> scores;
-    for (const char *system : {"6-0", "3-2-1"}) {
-        ScriptedRandom random(99);
-        MatchEngine::Setup setup = setupWithRatings(72);
-        setup.system = QString::fromLatin1(system);
-        MatchEngine engine(random, setup);
-        engine.announceSystem(setup.system);
-        ASSERT_EQ(engine.commentary().size(), 1u);
-        EXPECT_EQ(engine.commentary().front().text, QStringLiteral("(0)-> El BM VALENCIA Cambia la Táctica a ") + system);
-        EXPECT_EQ(engine.commentary().front().kind, Line::Kind::Announcement);
-        engine.announceSystem(QStringLiteral("5-1"));
-        EXPECT_EQ(engine.commentary().size(), 2u);
-        playOut(engine);
-        scores.emplace_back(engine.score(0), engine.score(1));
-    }
-    EXPECT_EQ(scores[0], scores[1]);
+    MatchEngine::Setup setup = setupWithRatings(72);
+    setup.system = QStringLiteral("6-0");
+    MatchEngine engine(m_random, setup);
+    engine.announceSystem(QStringLiteral("6-0"));
+    ASSERT_EQ(engine.commentary().size(), 1u);
+    EXPECT_EQ(engine.commentary().front().text, QStringLiteral("(0)-> El BM VALENCIA Cambia la Táctica a 6-0"));
+    EXPECT_EQ(engine.commentary().front().kind, Line::Kind::Announcement);
+    engine.announceSystem(QStringLiteral("5-1"));
+    EXPECT_EQ(engine.commentary().size(), 2u);
 }

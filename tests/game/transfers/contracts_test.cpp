@@ -90,15 +90,14 @@ TEST_F(ContractsTest, aDismissalPaysEveryYearLeftAndTheBoardStopsItBelowTwelve)
 
     m_dialogs.answer({false});
     EXPECT_EQ(Contracts(*m_context).dismiss(m_player), Contracts::Dismissal::Kept);
-    EXPECT_EQ(squad(), 12);
     EXPECT_EQ(m_dialogs.questions(), QStringList{QStringLiteral("Despedir|¿Está Seguro de Despedir a Éste Jugador? "
                                                                 "Tendrá que Pagarle Una Indemnización")});
 
     m_dialogs.answer({true});
     EXPECT_EQ(Contracts(*m_context).dismiss(m_player), Contracts::Dismissal::Dismissed);
+    // He goes to the released players with his terms, and every year of his wage is paid.
     EXPECT_EQ(value("select idequipo from jugadores where idjugador = ?", m_player), 85);
-    EXPECT_EQ(terms(), QStringLiteral("20000|100000|5")); // his terms go with him
-    EXPECT_EQ(game::Ledger(*m_store).row(2)->despidos, 100000);
+    EXPECT_EQ(std::pair(terms(), game::Ledger(*m_store).row(2)->despidos), std::pair(QStringLiteral("20000|100000|5"), 100000LL));
     EXPECT_EQ(text("select Nombre || '|' || idjugador from miequipo where Pos_Partido = 'CENTRAL'"), QStringLiteral("CENTRAL|0"));
 
     m_dialogs.answer({true});
@@ -106,16 +105,15 @@ TEST_F(ContractsTest, aDismissalPaysEveryYearLeftAndTheBoardStopsItBelowTwelve)
               Contracts::Dismissal::Refused);
     EXPECT_EQ(m_dialogs.texts().last(), QStringLiteral("La Directiva No Acepta Más Despidos de Jugadores, ya que el "
                                                        "Equipo Solo Cuenta con 14 Jugadores."));
-    EXPECT_EQ(squad(), 11);
-    EXPECT_EQ(game::Ledger(*m_store).row(2)->despidos, 100000);
+    EXPECT_EQ(std::pair(squad(), game::Ledger(*m_store).row(2)->despidos), std::pair(11LL, 100000LL));
 }
 
 // Guards: the market button that lists but never delists.
 TEST_F(ContractsTest, theMarketButtonListsAndDelistsInTurn)
 {
-    EXPECT_TRUE(Contracts(*m_context).toggleListing(m_player));
-    EXPECT_EQ(value("select venta from jugadores where idjugador = ?", m_player), 1);
-    EXPECT_FALSE(Contracts(*m_context).toggleListing(m_player));
-    EXPECT_EQ(value("select venta from jugadores where idjugador = ?", m_player), 0);
+    for (const bool listed : {true, false}) {
+        EXPECT_EQ(Contracts(*m_context).toggleListing(m_player), listed);
+        EXPECT_EQ(value("select venta from jugadores where idjugador = ?", m_player), listed ? 1 : 0);
+    }
     EXPECT_TRUE(m_dialogs.texts().isEmpty());
 }

@@ -4,6 +4,8 @@
 #include "transfers/offers.h"
 #include "transfers/terms.h"
 
+#include <tuple>
+
 using game::Offers;
 
 // The user's club (4) in a given week, with that week's ledger row open, making offers for
@@ -20,8 +22,8 @@ protected:
         planSeason(0);
         m_player = int(value("select min(idjugador) from jugadores where idequipo = ?", kAbroad));
         m_other = int(value("select max(idjugador) from jugadores where idequipo = ?", kAbroad));
-        m_clause = int(value("select Clausula_Recision from jugadores where idjugador = ?", m_player));
-        m_wage = int(value("select Ficha from jugadores where idjugador = ?", m_player));
+        m_clause = askingTerms(m_player).oferta;
+        m_wage = askingTerms(m_player).ficha;
         ASSERT_TRUE(m_clause > 0 && m_wage > 0);
     }
 
@@ -71,13 +73,12 @@ TEST_F(OffersTest, anOfferOnTheEdgeOfEveryTermIsSignedThreeWeeksLater)
     EXPECT_EQ(Offers(*m_context).settleDue().signings, 1);
     EXPECT_EQ(m_dialogs.texts(), QStringList{signed_});
     EXPECT_EQ(m_dialogs.messages().back().icon, game::Dialogs::Icon::Information);
-    EXPECT_EQ(count("selects"), 0);
     EXPECT_EQ(text("select idequipo || '|' || Dorsal || '|' || Ficha || '|' || Clausula_Recision || '|' || venta"
                    " || '|' || \"Años_Contrato\" from jugadores where idjugador = ?",
                    m_player),
               QStringLiteral("%1|%2|%3|%4|0|3").arg(kClub).arg(shirt).arg(m_wage).arg(2 * m_clause));
-    EXPECT_EQ(fees(8), m_clause);
-    EXPECT_EQ(value("select presupuesto from infoteams where idequipo = ?", kClub), budget);
+    EXPECT_EQ(std::tuple(fees(8), value("select presupuesto from infoteams where idequipo = ?", kClub), count("selects")),
+              std::tuple(m_clause, budget, 0));
 
     const qint64 wages = value("select sum(Ficha) from jugadores where idequipo = ?", kClub);
     EXPECT_EQ(game::Ledger(*m_store).row(8)->salarios, game::roundHalfEven(wages - m_wage, 30));
@@ -113,15 +114,13 @@ TEST_P(OfferAnswer, givesOnlyTheFirstRefusalAndIsJudgedWhereThePlayerIsNow)
     exec("update jugadores set idequipo = ? where idjugador = ?", c.movedTo, m_player);
     goToWeek(5);
     const Offers::Settled settled = Offers(*m_context).settleDue();
-    EXPECT_EQ(settled.signings, c.signs ? 1 : 0);
-    EXPECT_EQ(settled.refusals, c.signs ? 0 : 1);
+    EXPECT_EQ(std::pair(settled.signings, settled.refusals), c.signs ? std::pair(1, 0) : std::pair(0, 1));
     ASSERT_EQ(m_dialogs.messages().size(), 1u);
     EXPECT_EQ(m_dialogs.texts().front(),
               QString::fromUtf8(c.message).replace(QStringLiteral("%1"), nameOf(m_player)).replace(QStringLiteral("%2"), clubName(c.movedTo)));
     EXPECT_EQ(m_dialogs.messages().front().icon, c.icon);
-    EXPECT_EQ(clubOf(m_player), c.signs ? kClub : c.movedTo);
-    EXPECT_EQ(count("selects"), 0);
-    EXPECT_EQ(fees(5), c.signs ? m_clause : 0);
+    EXPECT_EQ(std::tuple(clubOf(m_player), count("selects"), fees(5)),
+              std::tuple(c.signs ? kClub : c.movedTo, 0, c.signs ? m_clause : 0));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -154,22 +153,18 @@ TEST_F(OffersTest, eachOfferIsAnsweredOnItsOwnOnTheTermsTheOneBeforeLeft)
 
     goToWeek(5);
     const Offers::Settled settled = offers.settleDue();
-    EXPECT_EQ(settled.signings, 2);
-    EXPECT_EQ(settled.refusals, 1);
+    EXPECT_EQ(std::pair(settled.signings, settled.refusals), std::pair(2, 1));
     EXPECT_EQ(m_dialogs.texts(), (QStringList{signing(m_player, kAbroad),
                                               QStringLiteral("El %1 Ha rechazado su Oferta").arg(clubName(kAbroad)),
                                               signing(m_player, kClub)}));
-    EXPECT_EQ(fees(5), 2 * m_clause);
-    EXPECT_EQ(clubOf(m_other), kAbroad);
-    EXPECT_EQ(count("selects"), 2);
+    EXPECT_EQ(std::tuple(fees(5), clubOf(m_other), count("selects")), std::tuple(2 * m_clause, kAbroad, 2));
 
     // The twin now meets a clause of twice the sum it offers, at the user's own club.
     m_dialogs.clear();
     goToWeek(6);
     EXPECT_EQ(offers.settleDue().refusals, 1);
     EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("El %1 Ha rechazado su Oferta").arg(clubName(kClub))});
-    EXPECT_EQ(value("select count(*) from selects where oferta = 0 and jugador = ?", m_player), 1);
-    EXPECT_EQ(count("selects"), 1);
+    EXPECT_EQ(text("select jugador || '|' || oferta from selects"), QStringLiteral("%1|0").arg(m_player));
 }
 
 struct Failure {
@@ -198,18 +193,14 @@ TEST_P(OfferFailure, anAnswerIsToldOnlyOnceWrittenAndOneThatFailedIsGivenAtTheNe
     EXPECT_EQ(offers.settleDue().signings, firstSigned ? 1 : 0);
     EXPECT_EQ(m_dialogs.texts().filter(QStringLiteral("Has Fichado")),
               firstSigned ? QStringList{signing(m_player, kAbroad)} : QStringList{});
-    EXPECT_EQ(clubOf(m_player), firstSigned ? kClub : kAbroad);
-    EXPECT_EQ(clubOf(m_other), kAbroad);
-    EXPECT_EQ(fees(5), firstSigned ? m_clause : 0);
-    EXPECT_EQ(count("selects"), firstSigned ? 1 : 2);
+    EXPECT_EQ(std::tuple(clubOf(m_player), clubOf(m_other), fees(5), count("selects")),
+              std::tuple(firstSigned ? kClub : kAbroad, kAbroad, firstSigned ? m_clause : 0, firstSigned ? 1 : 2));
 
     // Mended, the next week answers what still waits, four weeks old.
     mend();
     goToWeek(6);
     EXPECT_EQ(offers.settleDue().signings, firstSigned ? 1 : 2);
-    EXPECT_EQ(clubOf(m_player), kClub);
-    EXPECT_EQ(clubOf(m_other), kClub);
-    EXPECT_EQ(count("selects"), 0);
+    EXPECT_EQ(std::tuple(clubOf(m_player), clubOf(m_other), count("selects")), std::tuple(kClub, kClub, 0));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -235,10 +226,8 @@ TEST(OfferTerms, readTheBoxesAsTheGameKeepsThemAndRefuseSumsTooLarge)
     const auto typed = Offers::termsFrom(QStringLiteral("1.000 €"), QString(), QStringLiteral("2147483647 €"),
                                          QStringLiteral("6"), dialogs);
     ASSERT_TRUE(typed.has_value());
-    EXPECT_EQ(typed->oferta, 1000);
-    EXPECT_EQ(typed->clausula, 1); // an empty box is 1 €
-    EXPECT_EQ(typed->ficha, 2147483647);
-    EXPECT_EQ(typed->years, 6);
+    // An empty box is 1 €.
+    EXPECT_EQ(std::tuple(typed->oferta, typed->clausula, typed->ficha, typed->years), std::tuple(1000, 1, 2147483647, 6));
     const std::pair<const char *, std::optional<int>> years[] = {{"1", 1}, {" 6 ", 6}, {"7", {}}, {"0", {}}, {"tres", {}}, {"", {}}};
     for (const auto &[box, read] : years) {
         EXPECT_EQ(game::typedYears(QString::fromUtf8(box)), read) << box;
