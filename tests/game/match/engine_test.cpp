@@ -38,21 +38,18 @@ MatchEngine::Setup setupWithRatings(int fieldRating, bool userAtHome = true)
 class EngineTest : public ::testing::Test
 {
 protected:
+    // A shot's draw of 0 is an action that ends at a period's whistle: no shot is drawn.
     void action(bool own, int shooter, bool clockMoves, int shotDraw = 155, int detail = 1)
     {
         m_random.scriptDraw(own ? 1 : 2, 2);
         m_random.scriptDraw(shooter, 6);
         m_random.scriptDraw(clockMoves ? 2 : 1, 3);
-        m_random.scriptDraw(shotDraw, 155);
-        m_random.scriptDraw(detail, shotDraw <= 70 ? 2 : 5);
+        if (shotDraw) {
+            m_random.scriptDraw(shotDraw, 155);
+            m_random.scriptDraw(detail, shotDraw <= 70 ? 2 : 5);
+        }
     }
-    // An action that ends at a period's whistle: no shot is drawn.
-    void whistleAction()
-    {
-        m_random.scriptDraw(1, 2);
-        m_random.scriptDraw(1, 6);
-        m_random.scriptDraw(2, 3);
-    }
+    void whistleAction() { action(true, 1, true, 0); }
     // Plays missed shots of the user's, starting the match if need be, until the clock shows `minute`.
     void playUntil(MatchEngine &engine, int minute)
     {

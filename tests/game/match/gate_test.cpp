@@ -16,7 +16,7 @@ namespace {
 constexpr int kRival = 5;   // BM Valladolid, with a hall of 4000
 constexpr int kAbroad = 80; // Sporting CP: no stadium, no place in the table
 
-// A home match of the user's club (4). Unless a case says otherwise his hall holds 3000 and
+// A home match of the user's club (4) against BM Valladolid (5). Unless a case says otherwise his hall holds 3000 and
 // has cafeterias, a ticket costs 10 € and a hoarding 500 €, and the user (class 1, 5th) and
 // the rival (class 2, 7th) are of different classes and two places apart: an ordinary match.
 struct HouseCase {
@@ -51,15 +51,10 @@ protected:
 
     void arrange(const HouseCase &c)
     {
-        for (const auto &[club, categoria, place] : {std::tuple{kClub, c.userClass, c.userPlace},
-                                                     std::tuple{kRival, c.rivalClass, c.rivalPlace}}) {
-            exec("update equipos set categoria = ? where idequipo = ?", categoria, club);
-            exec("update asobal set puesto_actual = ? where teams = ?", place, club);
-        }
-        exec("update estadios set min_gradas = ?, cafeteria = ? where idequipo = ?", c.capacity, c.cafeteria ? 1 : 0,
-             kClub);
-        exec("update entradas set precio_entrada = ? where idPrecio = 1", c.ticket);
-        exec("update entradas set precio_entrada = ? where idPrecio = 2", c.board);
+        exec("update equipos set categoria = iif(idequipo = 4, ?, ?) where idequipo in (4, 5)", c.userClass, c.rivalClass);
+        exec("update asobal set puesto_actual = iif(teams = 4, ?, ?) where teams in (4, 5)", c.userPlace, c.rivalPlace);
+        exec("update estadios set min_gradas = ?, cafeteria = ? where idequipo = 4", c.capacity, c.cafeteria ? 1 : 0);
+        exec("update entradas set precio_entrada = iif(idPrecio = 1, ?, ?) where idPrecio in (1, 2)", c.ticket, c.board);
     }
 
     // Scripts an ordinary house: these crowds drawn out of the capacity, then these hoardings
@@ -75,12 +70,9 @@ protected:
     // The crowd drawn and, at a home match of the user's, paid, as a match opens.
     Gate::Report settle(int home, int away)
     {
-        Fixture fixture;
-        fixture.week = 1;
-        fixture.homeId = home;
-        fixture.awayId = away;
-        fixture.rivalId = home == kClub ? away : home;
         Gate gate(*m_context);
+        Fixture fixture;
+        fixture.week = 1, fixture.homeId = home, fixture.awayId = away, fixture.rivalId = home == kClub ? away : home;
         const Gate::Report report = gate.draw(fixture);
         gate.post(report);
         return report;

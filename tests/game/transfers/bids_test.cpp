@@ -47,72 +47,65 @@ protected:
     int m_player = 0;
 };
 
-class BidsSale : public BidsTest, public ::testing::WithParamInterface<int>
+struct BidCase {
+    friend void PrintTo(const BidCase &c, std::ostream *out) { *out << c.label; }
+    const char *label;
+    int squad;        // the user's squad, the listed player among them
+    int bidder;
+    bool accepted;    // the user's answer
+    bool diskFull;    // the ledger refuses the sale
+    Bids::Outcome outcome;
+    const char *news; // after the question; %1 the player's name, %2 the bidder's
+};
+
+class BidWeek : public BidsTest, public ::testing::WithParamInterface<BidCase>
 {};
 
-// Guards: a sale that pays another sum than the one named, keeps the player in his place
-// among the fourteen, or clears his listing, shirt or contract; a bid of the user's own club
-// (the draw does not leave it out) that skips a step; the news in other words.
-TEST_P(BidsSale, fromASquadOfFifteenPaysTheBidAndEmptiesHisPlace)
+// Guards: the question's text changed (the names in capitals, no blank after the question
+// mark); a sale that pays another sum than the one named, keeps the player in his place among
+// the fourteen, or clears his listing, shirt or contract; a bid of the user's own club (the
+// draw does not leave it out) that skips a step; a squad left with thirteen; a sale told with
+// "Ha sido Fichado por el" that the store did not write, or written in part; a refusal or
+// the news told twice or in other words.
+TEST_P(BidWeek, asksTheUserThenSellsOnlyFromFifteenAndOnlyWhatIsWritten)
 {
-    const int bidder = GetParam();
-    keepSquadOf(15);
+    const BidCase &c = GetParam();
+    keepSquadOf(c.squad);
     exec("update miequipo set idjugador = ?, Nombre = 'x', Media = 70 where Pos_Partido = 'PIVOTE'", m_player);
+    if (c.diskFull)
+        breakWrites("caja", "update");
     const std::string terms = "Dorsal || '|' || Ficha || '|' || \"Años_Contrato\" || '|' || venta";
     const QString before = player(terms);
-    scriptBid(500000, bidder);
-    m_dialogs.answer({true});
+    scriptBid(500000, c.bidder);
+    m_dialogs.answer({c.accepted});
 
-    EXPECT_EQ(Bids(*m_context).run(), Bids::Outcome::Sold);
-    EXPECT_EQ(player("idequipo").toInt(), bidder);
-    EXPECT_EQ(player(terms), before);
-    EXPECT_EQ(text("select Nombre || '|' || idjugador || '|' || Media from miequipo where Pos_Partido = 'PIVOTE'"), QStringLiteral("PIVOTE|0|0"));
-    EXPECT_EQ(std::pair(sold(), game::Ledger(*m_store).row(3)->ingresos), std::pair(500000LL, 500000LL));
-    // The question, then the news.
-    EXPECT_EQ(m_dialogs.texts().mid(1),
-              QStringList{player("Nombre") + QStringLiteral(" Ha sido Fichado por el ") + clubName(bidder)});
-}
+    EXPECT_EQ(Bids(*m_context).run(), c.outcome);
 
-INSTANTIATE_TEST_SUITE_P(Bidders, BidsSale, ::testing::Values(20, 4), // a club abroad, the user's own
-                         [](const auto &info) { return info.param == 4 ? "ownClub" : "clubAbroad"; });
-
-// Guards: a sale told with "Ha sido Fichado por el" that the store did not write, or written
-// in part (the player gone and the ledger without the sum).
-TEST_F(BidsTest, aSaleTheStoreRefusesIsNeverTold)
-{
-    keepSquadOf(15);
-    scriptBid(500000);
-    m_dialogs.answer({true});
-    breakWrites("caja", "update");
-    EXPECT_EQ(Bids(*m_context).run(), Bids::Outcome::Failed);
-    EXPECT_TRUE(m_dialogs.texts().filter(QStringLiteral("Ha sido Fichado")).isEmpty());
-    EXPECT_EQ(std::pair(player("idequipo").toInt(), sold()), std::pair(kClub, 0LL));
-}
-
-// Guards: a squad left with thirteen, the refusal told twice, or the question's text (the
-// names in capitals, no blank after the question mark) changed.
-TEST_F(BidsTest, fromASquadOfFourteenThePlayerRefusesOnceAndStaysListed)
-{
-    keepSquadOf(14);
-    scriptBid(1234);
-    m_dialogs.answer({true});
-    EXPECT_EQ(Bids(*m_context).run(), Bids::Outcome::PlayerRefused);
-    EXPECT_EQ(std::pair(player("idequipo").toInt(), sold()), std::pair(kClub, 0LL));
     const QString nombre = player("Nombre");
-    EXPECT_EQ(m_dialogs.texts().mid(1), QStringList{nombre + QStringLiteral(" Ha rechazado la Oferta del ") + clubName(kBidder)});
-
-    m_dialogs.clear();
-    scriptBid(1234);
-    m_dialogs.answer({false});
-    EXPECT_EQ(Bids(*m_context).run(), Bids::Outcome::Declined);
-    EXPECT_EQ(m_dialogs.texts().size(), 1); // the question alone
     EXPECT_EQ(m_dialogs.questions(),
-              QStringList{QStringLiteral("Oferta|El %1 Ofrece 1234€ por %2 %3 ¿Desea Aceptarla?%2 Tiene una Clausula de "
+              QStringList{QStringLiteral("Oferta|El %1 Ofrece 500000€ por %2 %3 ¿Desea Aceptarla?%2 Tiene una Clausula de "
                                          "Rescisión de: %4€")
-                              .arg(clubName(kBidder).toUpper(), nombre.toUpper(), player("Apellidos").toUpper(),
+                              .arg(clubName(c.bidder).toUpper(), nombre.toUpper(), player("Apellidos").toUpper(),
                                    player("Clausula_Recision"))});
-    EXPECT_EQ(player("venta"), QStringLiteral("1"));
+    const QString news = QString::fromUtf8(c.news).replace(QStringLiteral("%1"), nombre).replace(QStringLiteral("%2"), clubName(c.bidder));
+    EXPECT_EQ(m_dialogs.texts().mid(1).filter(QStringLiteral("Ha ")), *c.news ? QStringList{news} : QStringList{});
+    const bool isSold = c.outcome == Bids::Outcome::Sold;
+    EXPECT_EQ(player("idequipo").toInt(), isSold ? c.bidder : kClub);
+    EXPECT_EQ(player(terms), before);
+    EXPECT_EQ(text("select Nombre || '|' || idjugador from miequipo where Pos_Partido = 'PIVOTE'"),
+              isSold ? QStringLiteral("PIVOTE|0") : QStringLiteral("x|%1").arg(m_player));
+    EXPECT_EQ(std::pair(sold(), game::Ledger(*m_store).row(3)->ingresos), isSold ? std::pair(500000LL, 500000LL) : std::pair(0LL, 0LL));
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Bids, BidWeek,
+    ::testing::Values(
+        BidCase{"soldAbroad", 15, 20, true, false, Bids::Outcome::Sold, "%1 Ha sido Fichado por el %2"},
+        BidCase{"soldToTheUsersOwnClub", 15, 4, true, false, Bids::Outcome::Sold, "%1 Ha sido Fichado por el %2"},
+        BidCase{"declined", 15, 20, false, false, Bids::Outcome::Declined, ""},
+        BidCase{"refusedFromFourteen", 14, 20, true, false, Bids::Outcome::PlayerRefused, "%1 Ha rechazado la Oferta del %2"},
+        BidCase{"diskFull", 15, 20, true, true, Bids::Outcome::Failed, ""}),
+    [](const auto &info) { return std::string(info.param.label); });
 
 // Guards: a bid without a listed player, other than 101 draws a week, or a listed player
 // beyond the highest id the market draws getting bids.

@@ -37,25 +37,9 @@ protected:
     void prepare(int rival, Fixture::Type type = Fixture::Type::League)
     {
         Fixture fixture;
-        fixture.week = 1;
-        fixture.type = type;
-        fixture.homeId = kClub;
-        fixture.awayId = rival;
-        fixture.rivalId = rival;
+        fixture.week = 1, fixture.type = type, fixture.homeId = kClub, fixture.awayId = rival, fixture.rivalId = rival;
         RivalSquad(*m_context).prepare(fixture);
     }
-
-    // Scripts the next draws among all the players to hit these ids, in order.
-    void scriptDraws(std::initializer_list<int> ids, int times = 1)
-    {
-        for (int i = 0; i < times; ++i)
-            for (const int id : ids)
-                m_random.scriptDraw(id, m_players);
-    }
-
-    // The match sheet as club:player, in plaza order.
-    QString sheet() { return text("select group_concat(idequipo || ':' || idjugador, ' ')"
-                                   " from (select * from jugar order by plaza, idjugador)"); }
 
     // The dump of jugadores before, with one player moved to `club` wearing `shirt`.
     static QString moved(const QString &before, int id, int club, int shirt)
@@ -103,100 +87,90 @@ TEST_F(RivalSquadTest, aRivalWithOneBestPerPositionFieldsHisSevenAndMovesNobody)
     EXPECT_TRUE(m_dialogs.texts().isEmpty());
 }
 
+struct NewcomerCase {
+    friend void PrintTo(const NewcomerCase &c, std::ostream *out) { *out << c.label; }
+    const char *label;
+    std::vector<const char *> scene;
+    std::vector<int> draws; // among all the players, `times` over
+    int times;
+    int rival;
+    Fixture::Type type;
+    int newcomer;     // the player moved to the rival, 0 for none
+    const char *sixth; // the sheet's sixth place (the pivot's), club:player
+};
+
+class RivalNewcomer : public RivalSquadTest, public ::testing::WithParamInterface<NewcomerCase>
+{};
+
 // Guards: a newcomer taken from the league (the user's club included), from the youth pool or
 // from the wrong position; a tied man started; the newcomer's club, number or other terms
-// wrong, or his line on the sheet not his.
-TEST_F(RivalSquadTest, aTieAtTheTopBringsInTheFirstDrawnPlayerOfThePositionFromAbroad)
+// wrong, or his line on the sheet not his; a draw that never ends, that stops early or late,
+// or a fallback that ignores the club or position rules; an empty place, or one filled by a
+// man already named, when no club can give a player of the position; a club above 16 losing
+// or duplicating its own man when the draw hits him.
+TEST_P(RivalNewcomer, fillsATiedOrEmptyPlaceFromAbroadOrWithTheBestManLeft)
 {
-    exec("update jugadores set Media = 85 where idjugador = 32"); // ties Ragnarsson at pivot
+    const NewcomerCase &c = GetParam();
+    for (const char *statement : c.scene)
+        exec(statement);
     const QString before = dump("jugadores");
     const int shirt = userTopShirt();
-    scriptDraws({kUserPivot, kYouthPivot, kKeeperAbroad, kPivotOf30});
+    for (int i = 0; i < c.times; ++i)
+        for (const int id : c.draws)
+            m_random.scriptDraw(id, m_players);
     m_random.script({kSentinel});
 
-    prepare(kRival);
+    prepare(c.rival, c.type);
 
-    EXPECT_EQ(dump("jugadores"), moved(before, kPivotOf30, kRival, shirt));
-    EXPECT_EQ(sheet(), QStringLiteral("2:19 2:22 2:24 2:26 2:29 2:479 2:34")); // he starts, though both tied men are better
+    EXPECT_EQ(dump("jugadores"), c.newcomer ? moved(before, c.newcomer, c.rival, shirt) : before);
+    EXPECT_EQ(text("select idequipo || ':' || idjugador from jugar where plaza = 6"), QString::fromLatin1(c.sixth));
     EXPECT_EQ(text("select Nombre || Apellidos || Media || Posicion from jugar where plaza = 6"),
-              text("select Nombre || Apellidos || Media || Posicion from jugadores where idjugador = ?", kPivotOf30));
+              text("select Nombre || Apellidos || Media || Posicion from jugadores where idjugador = ?", QString::fromLatin1(c.sixth).section(':', 1).toInt()));
+    EXPECT_EQ(count("jugar"), 7);
     EXPECT_EQ(m_random.uniform(), kSentinel);
-}
-
-// Guards: a draw that never ends, that stops early or late, or a fallback that ignores the
-// club or position rules.
-TEST_F(RivalSquadTest, afterTheLastFailedDrawTheLowestQualifyingIdComesIn)
-{
-    exec("update jugadores set Media = 85 where idjugador = 32");
-    const QString before = dump("jugadores");
-    scriptDraws({kUserPivot}, RivalSquad::kMaxDraws);
-    scriptDraws({kPivotOf30}); // one draw too many: it must stay unused
-
-    prepare(kRival);
-
-    EXPECT_EQ(dump("jugadores"), moved(before, kLowestPivotAbroad, kRival, userTopShirt()));
-    EXPECT_EQ(sheet(), QStringLiteral("2:19 2:22 2:24 2:26 2:29 2:280 2:34"));
-    EXPECT_EQ(m_random.draw(m_players), kPivotOf30);
-}
-
-// Guards: an empty place, or a place filled by a man already named, when no club can give a
-// player of the position.
-TEST_F(RivalSquadTest, withNoCandidateAnywhereTheRivalsBestUnnamedManStandsIn)
-{
-    exec("update jugadores set idequipo = 84 where Posicion = 'Pivote' and (idequipo > 16 or idequipo = 2)");
-    exec("update jugadores set Media = 82 where idjugador = 25"); // ties the second goalkeeper, id 20
-    const QString players = dump("jugadores");
-
-    prepare(kRival);
-
-    EXPECT_EQ(sheet(), QStringLiteral("2:19 2:22 2:24 2:26 2:29 2:20 2:34"));
-    EXPECT_EQ(text("select Posicion from jugar where plaza = 6"), QStringLiteral("Portero"));
-    EXPECT_EQ(dump("jugadores"), players);
     EXPECT_TRUE(m_dialogs.texts().isEmpty());
 }
 
-// Guards: a club above 16 losing or duplicating its own man when the draw hits him.
-TEST_F(RivalSquadTest, aForeignRivalDrawingItsOwnPlayerOnlyChangesHisNumber)
-{
-    exec("update jugadores set Media = 61 where idjugador = 281"); // ties 280 at pivot
-    const QString before = dump("jugadores");
-    scriptDraws({281});
-
-    prepare(17, Fixture::Type::Friendly);
-
-    EXPECT_EQ(dump("jugadores"), moved(before, 281, 17, userTopShirt()));
-    EXPECT_EQ(text("select idequipo || ':' || idjugador || ':' || Posicion from jugar where plaza = 6"),
-              QStringLiteral("17:281:Pivote"));
-    EXPECT_EQ(count("jugar"), 7);
-}
-
-class RivalSquadFailure : public RivalSquadTest, public ::testing::WithParamInterface<const char *>
-{};
+INSTANTIATE_TEST_SUITE_P(
+    Newcomers, RivalNewcomer,
+    ::testing::Values(
+        // A tie with Ragnarsson at pivot: the first drawn pivot from abroad starts, though both tied men are better.
+        NewcomerCase{"aTieBringsTheFirstDrawnFromAbroad", {"update jugadores set Media = 85 where idjugador = 32"},
+                     {kUserPivot, kYouthPivot, kKeeperAbroad, kPivotOf30}, 1, kRival, Fixture::Type::League, kPivotOf30, "2:479"},
+        NewcomerCase{"afterTheLastFailedDrawTheLowestComes", {"update jugadores set Media = 85 where idjugador = 32"},
+                     {kUserPivot}, RivalSquad::kMaxDraws, kRival, Fixture::Type::League, kLowestPivotAbroad, "2:280"},
+        // No pivot anywhere but the user's; the rival's second goalkeeper (20) tied with 25.
+        NewcomerCase{"withNoCandidateTheBestUnnamedManStandsIn",
+                     {"update jugadores set idequipo = 84 where Posicion = 'Pivote' and (idequipo > 16 or idequipo = 2)",
+                      "update jugadores set Media = 82 where idjugador = 25"},
+                     {kUserPivot}, RivalSquad::kMaxDraws, kRival, Fixture::Type::League, 0, "2:20"},
+        // 281 ties 280 at pivot for club 17, which draws its own man.
+        NewcomerCase{"aForeignRivalDrawingItsOwnOnlyChangesHisNumber", {"update jugadores set Media = 61 where idjugador = 281"},
+                     {281}, 1, 17, Fixture::Type::Friendly, 281, "17:281"}),
+    [](const auto &info) { return std::string(info.param.label); });
 
 // Guards: a half-written week (a move kept without its match sheet), a missing sheet that
 // goes unreported, or a failure told more than once.
-TEST_P(RivalSquadFailure, undoesTheMoveAndTellsThePlayerOnce)
+TEST_F(RivalSquadTest, aStoreFailureUndoesTheMoveAndTellsThePlayerOnce)
 {
     exec("update jugadores set Media = 85 where idjugador = 32");
     exec("insert into jugar values (4, 53, 'A', 'B', 70, 'Portero', 1)");
-    exec(GetParam());
-    const QString players = dump("jugadores");
-    const QString sheet = count("sqlite_master where name = 'jugar'") ? dump("jugar") : QString();
-    scriptDraws({kPivotOf30});
-
+    // The sheet refuses the last place, after the pivot has moved.
+    exec("create trigger no_central before insert on jugar when new.plaza = 7 begin select raise(abort, 'sin sitio'); end");
+    const QString players = dump("jugadores"), sheet = dump("jugar");
+    m_random.scriptDraw(kPivotOf30, m_players);
     prepare(kRival);
-
     EXPECT_EQ(dump("jugadores"), players);
-    if (!sheet.isEmpty()) {
-        EXPECT_EQ(dump("jugar"), sheet);
-    }
+    EXPECT_EQ(dump("jugar"), sheet);
     ASSERT_EQ(m_dialogs.messages().size(), 1u);
-    EXPECT_EQ(m_dialogs.messages().front().icon, game::Dialogs::Icon::Exclamation);
-    EXPECT_FALSE(m_dialogs.messages().front().text.isEmpty());
-}
 
-INSTANTIATE_TEST_SUITE_P(Store, RivalSquadFailure,
-                         ::testing::Values("drop table jugar",
-                                           // The sheet refuses the last place, after the pivot has moved.
-                                           "create trigger no_central before insert on jugar when new.plaza = 7"
-                                           " begin select raise(abort, 'sin sitio'); end"));
+    exec("drop table jugar");
+    m_random.scriptDraw(kPivotOf30, m_players);
+    prepare(kRival);
+    EXPECT_EQ(dump("jugadores"), players);
+    ASSERT_EQ(m_dialogs.messages().size(), 2u);
+    for (const auto &message : m_dialogs.messages()) {
+        EXPECT_EQ(message.icon, game::Dialogs::Icon::Exclamation);
+        EXPECT_FALSE(message.text.isEmpty());
+    }
+}
