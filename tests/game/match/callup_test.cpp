@@ -4,6 +4,7 @@
 #include "match/matchday.h"
 #include "match/tactics.h"
 
+#include <map>
 #include <tuple>
 #include <utility>
 
@@ -102,17 +103,17 @@ TEST_F(CallUpTest, tacticsStoreTheCodeOfEachSystemAndTouchNoPrice)
     EXPECT_EQ(tactics.defenceCode(), 4);
     tactics.setDefence(9); // no such system: nothing changes
     EXPECT_EQ(tactics.defenceCode(), 4);
-    // Every system, the last included, opens the match as stored and has its own diagram.
-    const int defencePictures[] = {7, 6, 4, 2, 5};
+    // Every system, the last included, opens the match as stored and has its own diagram;
+    // a code outside the lists has none.
     for (int code = 1; code <= int(Tactics::defences().size()); ++code) {
         tactics.setDefence(code);
         EXPECT_EQ(game::MatchDay(*m_context).storedDefence(), Tactics::defences().at(code - 1)) << code;
-        EXPECT_EQ(Tactics::defencePicture(code), defencePictures[code - 1]) << code;
     }
     EXPECT_EQ(tactics.attackCode(), 1);
-    const int attackPictures[] = {0, 8, 1, 0}; // codes 0 to 3
-    for (int code = 0; code <= 3; ++code)
-        EXPECT_EQ(Tactics::attackPicture(code), attackPictures[code]) << code;
-    EXPECT_EQ(Tactics::defencePicture(6), 0);
+    const std::map<int, int> defencePictures{{1, 7}, {2, 6}, {3, 4}, {4, 2}, {5, 5}}, attackPictures{{1, 8}, {2, 1}};
+    for (int code = -64; code <= 64; ++code) {
+        EXPECT_EQ(Tactics::defencePicture(code), defencePictures.count(code) ? defencePictures.at(code) : 0) << code;
+        EXPECT_EQ(Tactics::attackPicture(code), attackPictures.count(code) ? attackPictures.at(code) : 0) << code;
+    }
     EXPECT_EQ(dump("entradas where idPrecio in (1, 2)"), prices);
 }
