@@ -188,7 +188,7 @@ TEST_P(OfferFailure, anAnswerIsToldOnlyOnceWrittenAndOneThatFailedIsGivenAtTheNe
     ASSERT_TRUE(offers.make(m_player, askingTerms(m_player)));
     ASSERT_TRUE(offers.make(m_other, askingTerms(m_other)));
     goToWeek(5);
-    exec(QString::fromUtf8(GetParam().trigger).arg(m_other).toStdString());
+    exec(QString::fromUtf8(GetParam().trigger).replace(QStringLiteral("%1"), QString::number(m_other)).toStdString());
 
     EXPECT_EQ(offers.settleDue().signings, firstSigned ? 1 : 0);
     EXPECT_EQ(m_dialogs.texts().filter(QStringLiteral("Has Fichado")),
