@@ -14,38 +14,20 @@ protected:
         CareerTest::SetUp();
         startCareer();
         planSeason(0);
-        m_player = int(m_store->integer("select min(idjugador) from jugadores where idequipo = ?", kClub));
-        ASSERT_TRUE(m_store->run([&] {
-            m_store->execute("update datos_jugador set jornada = 2");
-            game::Ledger(*m_store).openWeek(2, kClub);
-            m_store->execute("update jugadores set Ficha = 20000, Clausula_Recision = 100000 where idjugador = ?", m_player);
-        }).ok());
+        m_player = int(value("select min(idjugador) from jugadores where idequipo = ?", kClub));
+        exec("update datos_jugador set jornada = 2");
+        ASSERT_TRUE(m_store->run([&] { game::Ledger(*m_store).openWeek(2, kClub); }).ok());
+        exec("update jugadores set Ficha = 20000, Clausula_Recision = 100000 where idjugador = ?", m_player);
     }
 
-    void setYears(int years)
-    {
-        ASSERT_TRUE(m_store->run([&] {
-            m_store->execute("update jugadores set \"Años_Contrato\" = ? where idjugador = ?", years, m_player);
-        }).ok());
-    }
-
+    void setYears(int years) { exec("update jugadores set \"Años_Contrato\" = ? where idjugador = ?", years, m_player); }
     QString terms()
     {
-        return m_store->text("select Ficha || '|' || Clausula_Recision || '|' || \"Años_Contrato\" from jugadores"
-                             " where idjugador = ?",
-                             m_player);
+        return text("select Ficha || '|' || Clausula_Recision || '|' || \"Años_Contrato\" from jugadores where idjugador = ?",
+                    m_player);
     }
-
-    QString nombre() { return m_store->text("select Nombre from jugadores where idjugador = ?", m_player); }
-
-    void keepSquadOf(int players)
-    {
-        ASSERT_TRUE(m_store->run([&] {
-            m_store->execute("update jugadores set idequipo = 30 where idequipo = ? and idjugador not in"
-                             " (select idjugador from jugadores where idequipo = ? order by idjugador limit ?)",
-                             kClub, kClub, players);
-        }).ok());
-    }
+    QString nombre() { return text("select Nombre from jugadores where idjugador = ?", m_player); }
+    qint64 squad() { return value("select count(*) from jugadores where idequipo = ?", kClub); }
 
     int m_player = 0;
 };
@@ -61,21 +43,20 @@ class Renewal : public ContractsTest, public ::testing::WithParamInterface<Renew
 {};
 
 // Guards: the bounds of the three tests off by one (ten years in all, one and a half times
-// the clause, a thousand more of wage), the tests out of order, or a refusal that changes
-// his terms.
+// the clause, a thousand more of wage), the tests out of order, a refusal that changes his
+// terms, or the answers in other words.
 TEST_P(Renewal, isTakenExactlyOnTheBoundsOfItsThreeTests)
 {
     const RenewalCase &c = GetParam();
     setYears(c.yearsNow);
     const QString before = terms();
-    const bool signed_ = Contracts(*m_context).renew(m_player, c.offer);
-    if (QString::fromUtf8(c.refusal).isEmpty()) {
-        EXPECT_TRUE(signed_);
+    const bool signs = !*c.refusal;
+    EXPECT_EQ(Contracts(*m_context).renew(m_player, c.offer), signs);
+    if (signs) {
         EXPECT_EQ(terms(), QStringLiteral("%1|%2|%3").arg(c.offer.ficha).arg(c.offer.clausula).arg(c.yearsNow + c.offer.years));
         EXPECT_EQ(m_dialogs.texts(), (QStringList{nombre() + QStringLiteral(" Ha Renovado su Contrato"),
                                                   QStringLiteral("El Jugador Cobrará Lo Acordado al Finalizar Esta Temporada")}));
     } else {
-        EXPECT_FALSE(signed_);
         EXPECT_EQ(terms(), before);
         EXPECT_EQ(m_dialogs.texts(), QStringList{nombre() + QString::fromUtf8(c.refusal)});
     }
@@ -96,47 +77,43 @@ INSTANTIATE_TEST_SUITE_P(
         RenewalCase{"allFailing", 9, {999999, 1, 5}, " Ha rechazado su Oferta porque No Quiere Ligarse más al Club"}),
     [](const auto &info) { return std::string(info.param.name); });
 
-// Guards: a dismissal that pays the wrong compensation, keeps the player's place among the
-// fourteen, or goes through below the board's limit of twelve.
+// Guards: a dismissal without the question or on a No, one that pays the wrong compensation,
+// keeps the player's place among the fourteen or goes through below the board's limit of
+// twelve; the question or the board's refusal in other words.
 TEST_F(ContractsTest, aDismissalPaysEveryYearLeftAndTheBoardStopsItBelowTwelve)
 {
     setYears(5);
-    keepSquadOf(12);
-    ASSERT_TRUE(m_store->run([&] {
-        m_store->execute("update miequipo set idjugador = ?, Nombre = 'x', Media = 70 where Pos_Partido = 'CENTRAL'", m_player);
-    }).ok());
+    exec("update jugadores set idequipo = 30 where idequipo = ? and idjugador not in"
+         " (select idjugador from jugadores where idequipo = ? order by idjugador limit 12)",
+         kClub, kClub);
+    exec("update miequipo set idjugador = ?, Nombre = 'x', Media = 70 where Pos_Partido = 'CENTRAL'", m_player);
 
     m_dialogs.answer({false});
     EXPECT_EQ(Contracts(*m_context).dismiss(m_player), Contracts::Dismissal::Kept);
-    EXPECT_EQ(m_store->integer("select idequipo from jugadores where idjugador = ?", m_player), kClub);
+    EXPECT_EQ(m_dialogs.questions(), QStringList{QStringLiteral("Despedir|¿Está Seguro de Despedir a Éste Jugador? "
+                                                                "Tendrá que Pagarle Una Indemnización")});
 
     m_dialogs.answer({true});
     EXPECT_EQ(Contracts(*m_context).dismiss(m_player), Contracts::Dismissal::Dismissed);
-    EXPECT_EQ(m_store->integer("select idequipo from jugadores where idjugador = ?", m_player), 85);
-    EXPECT_EQ(terms(), QStringLiteral("20000|100000|5")); // his terms go with him
-    EXPECT_EQ(game::Ledger(*m_store).row(2)->despidos, 100000);
-    EXPECT_EQ(m_store->text("select Nombre || '|' || idjugador from miequipo where Pos_Partido = 'CENTRAL'"),
-              QStringLiteral("CENTRAL|0"));
-    EXPECT_EQ(m_store->integer("select count(*) from jugadores where idequipo = ?", kClub), 11);
+    // He goes to the released players with his terms, and every year of his wage is paid.
+    EXPECT_EQ(value("select idequipo from jugadores where idjugador = ?", m_player), 85);
+    EXPECT_EQ(std::pair(terms(), game::Ledger(*m_store).row(2)->despidos), std::pair(QStringLiteral("20000|100000|5"), 100000LL));
+    EXPECT_EQ(text("select Nombre || '|' || idjugador from miequipo where Pos_Partido = 'CENTRAL'"), QStringLiteral("CENTRAL|0"));
 
-    m_dialogs.clear();
-    const int next = int(m_store->integer("select min(idjugador) from jugadores where idequipo = ?", kClub));
     m_dialogs.answer({true});
-    EXPECT_EQ(Contracts(*m_context).dismiss(next), Contracts::Dismissal::Refused);
-    EXPECT_EQ(m_dialogs.questions(), QStringList{QStringLiteral("Despedir|¿Está Seguro de Despedir a Éste Jugador? "
-                                                                "Tendrá que Pagarle Una Indemnización")});
+    EXPECT_EQ(Contracts(*m_context).dismiss(int(value("select min(idjugador) from jugadores where idequipo = ?", kClub))),
+              Contracts::Dismissal::Refused);
     EXPECT_EQ(m_dialogs.texts().last(), QStringLiteral("La Directiva No Acepta Más Despidos de Jugadores, ya que el "
                                                        "Equipo Solo Cuenta con 14 Jugadores."));
-    EXPECT_EQ(m_store->integer("select count(*) from jugadores where idequipo = ?", kClub), 11);
-    EXPECT_EQ(game::Ledger(*m_store).row(2)->despidos, 100000);
+    EXPECT_EQ(std::pair(squad(), game::Ledger(*m_store).row(2)->despidos), std::pair(11LL, 100000LL));
 }
 
 // Guards: the market button that lists but never delists.
 TEST_F(ContractsTest, theMarketButtonListsAndDelistsInTurn)
 {
-    EXPECT_TRUE(Contracts(*m_context).toggleListing(m_player));
-    EXPECT_EQ(m_store->integer("select venta from jugadores where idjugador = ?", m_player), 1);
-    EXPECT_FALSE(Contracts(*m_context).toggleListing(m_player));
-    EXPECT_EQ(m_store->integer("select venta from jugadores where idjugador = ?", m_player), 0);
+    for (const bool listed : {true, false}) {
+        EXPECT_EQ(Contracts(*m_context).toggleListing(m_player), listed);
+        EXPECT_EQ(value("select venta from jugadores where idjugador = ?", m_player), listed ? 1 : 0);
+    }
     EXPECT_TRUE(m_dialogs.texts().isEmpty());
 }
