@@ -1,9 +1,7 @@
 // The first screens as a player uses them: title, menu, new career, add youth, web pages, quit.
 
-#include "career/newcareer.h"
 #include "screenfixture.h"
 
-#include <QSignalSpy>
 #include <QTextBrowser>
 #include <QToolButton>
 
@@ -180,18 +178,6 @@ TEST_F(Screens, aYouthIsAddedFromTheMenuAndTheFormIsReadyForTheNext)
               "Íñigo D'Ors Zubizarreta 18 Pivote 23 España");
     expectEmptyForm();
     EXPECT_TRUE(screen->isVisible());
-}
-
-// Guards: a career that survives quitting, which would make the next start a strange one.
-TEST_F(Screens, quittingFromTheMenuRestoresThePristineFile)
-{
-    ASSERT_TRUE(game::NewCareer(*m_context).start({"Ana", "Ruiz", 8, "BM VALENCIA"}));
-    goToMenu();
-    QSignalSpy finished(m_navigator.get(), &app::Navigator::finished);
-    click("Image3");
-    EXPECT_EQ(finished.count(), 1);
-    EXPECT_EQ(fileBytes(workingPath()), fileBytes(pristinePath()));
-    EXPECT_TRUE(m_dialogs.texts().isEmpty());
 }
 
 // Guards: the warning shown only the first time, a page that needs the game's data, a page
