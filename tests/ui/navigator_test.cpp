@@ -53,18 +53,12 @@ TEST_F(NavigatorScreens, comingBackToThePanelNeverOpensTheWeekAgain)
     EXPECT_EQ(text("lblJornada"), "1");
 }
 
-// Guards: a panel button enabled for a screen that does not exist, or left disabled once
-// the screen has been added to the game's table after the panel was made.
+// Guards: a panel button left disabled once its screen has been added to the game's table
+// after the panel was made (that every button is enabled for the game's own screens is held
+// by the first week's panel).
 TEST_F(NavigatorScreens, aPanelButtonFollowsWhetherItsScreenExistsEvenWhenAddedLater)
 {
     reachFirstLeagueWeek();
-    for (const auto &[button, screen] :
-         {std::pair{"cmdAlineacion", "Alinear"}, {"cmdSeguir", "Alinear"}, {"Command3", "Tactica"},
-          {"cmdPlantilla", "Plantilla"}, {"c", "Calendario"}, {"cmdClasificacion", "Clasificacion"},
-          {"cmdResultados", "Resultados"}, {"cmdCaja", "Caja"}, {"cmdEstadio", "estadios"},
-          {"cmdfichar", "Fichar_EnVenta"}})
-        EXPECT_EQ(find<QPushButton>(button)->isEnabled(), m_navigator->has(screen)) << button;
-
     // A panel whose game gains a screen after the panel was made: the button lights up the
     // next time the week is shown, and asks for that screen.
     QSet<QString> existing{"Caja"};
