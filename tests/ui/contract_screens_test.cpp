@@ -59,19 +59,16 @@ protected:
         ASSERT_EQ(openFirstGoalkeeper(), player);
     }
 
-    QString fact(int index)
-    {
-        QLabel *label = indexed::find(m_navigator->current(), "lblEdad", index);
-        return label ? label->text() : QStringLiteral("<no lblEdad %1>").arg(index);
-    }
-
     // The card beside the terms shows the player as the store has him, his club by name,
     // each fact beside its caption.
     void expectCard(int player)
     {
         EXPECT_EQ(text("lblNombre"),
                   m_store->text("select Nombre || ' ' || Apellidos from jugadores where idjugador = ?", player));
-        EXPECT_EQ(QStringList({fact(0), fact(1), fact(2), fact(3), fact(4), text("lblEquipo")}).join('/'),
+        QStringList facts;
+        for (int index = 0; index < 5; ++index)
+            facts << entry("lblEdad", index)->text();
+        EXPECT_EQ((facts << text("lblEquipo")).join('/'),
                   m_store->text("select Edad || '/' || Nacionalidad || '/' || Posicion || '/' || nombre_lesion || '/' ||"
                                 " Media || '/' || NombreEquipo from jugadores join lesiones on idlesion = Lesiones"
                                 " join equipos using (idequipo) where idjugador = ?",
@@ -335,10 +332,7 @@ TEST_F(ContractScreens, youthSearchLeadsToAnOfferFromTheTermsTheYouthAsks)
     auto *positions = find<QListWidget>("list1");
     auto *youths = find<QTableView>("DGJugadores");
     ASSERT_TRUE(positions && youths);
-    QStringList items;
-    for (int row = 0; row < positions->count(); ++row)
-        items << positions->item(row)->text();
-    EXPECT_EQ(items, kPositions);
+    EXPECT_EQ(items(positions), kPositions);
     EXPECT_EQ(positions->currentRow(), 0);
     EXPECT_EQ(youths->model()->rowCount(), 0);
     EXPECT_EQ(shownHeaders(youths),
