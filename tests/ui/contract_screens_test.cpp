@@ -190,9 +190,10 @@ TEST_F(ContractScreens, squadListsTheClubByGroupAndOpensThePickedPlayersContract
     EXPECT_EQ(m_navigator->screen(kSquad), nullptr);
 }
 
-// Guards: a refusal that still writes, a test of the three off by one at its limit as the
-// boxes pass it on, the screen left open after an answer, a renewal that sets the years
-// instead of adding them, and a squad shown again with its old years.
+// Guards: a refusal that still writes, the boxes' terms not passed on as shown (each of the
+// three tests met exactly at its limit is a renewal), the screen left open after an answer, a
+// renewal that sets the years instead of adding them, and a squad shown again with its old
+// years.
 TEST_F(ContractScreens, renewalIsAnsweredAtOnceAndTheSquadIsReadAfresh)
 {
     reachFirstLeagueWeek();
