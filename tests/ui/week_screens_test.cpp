@@ -55,6 +55,7 @@ TEST_F(WeekScreens, aPlannedSeasonOpensWeekOneWithItsFixtureLedgerAndCalendar)
     for (const char *button : {"cmdAlineacion", "Command3", "cmdPlantilla", "c", "cmdClasificacion", "cmdResultados",
                                "cmdCaja", "cmdEstadio", "cmdfichar", "cmdSeguir"})
         EXPECT_TRUE(find<QPushButton>(button)->isEnabled()) << button;
+    expectTidy("panel");
     screenshot("panel");
 
     click("cmdCaja");
