@@ -165,10 +165,7 @@ protected:
     }
 
     // The text of a cell of a grid.
-    static QString cell(QTableView *grid, int row, int column)
-    {
-        return grid->model()->index(row, column).data().toString();
-    }
+    static QString cell(QTableView *grid, int row, int column) { return grid->model()->index(row, column).data().toString(); }
 
     // Types into a box as the player would; text beyond ASCII goes in as one insertion.
     void type(const QString &name, const QString &text)
@@ -185,91 +182,112 @@ protected:
             box->insert(text);
     }
 
-    void goToMenu()
-    {
-        m_navigator->showMenu();
-        QApplication::processEvents();
-    }
+    void goToMenu() { m_navigator->showMenu(), QApplication::processEvents(); }
 
     // From the menu to the planner with a manager and the club of that crest.
     void startCareerFromMenu(const QString &crest)
     {
         goToMenu();
-        click(QStringLiteral("Command4"));
-        type(QStringLiteral("txtNombre"), QStringLiteral("Chema"));
-        type(QStringLiteral("txtApellidos"), QStringLiteral("Ruiz"));
+        click("Command4");
+        type("txtNombre", "Chema");
+        type("txtApellidos", "Ruiz");
         QTest::mouseClick(find(crest), Qt::LeftButton);
-        click(QStringLiteral("cmdSeguir"));
+        click("cmdSeguir");
     }
 
     // A new career with the club of that crest, every friendly declined, on the panel of its
     // first week, a league round; the week's events run as the panel's timer would run them.
-    void reachFirstLeagueWeek(const QString &crest = QStringLiteral("IValencia"))
+    void reachFirstLeagueWeek(const QString &crest = "IValencia")
     {
         startCareerFromMenu(crest);
-        for (int slot = 0; slot < 5; ++slot)
-            click(QStringLiteral("cmdNoJugar"));
-        click(QStringLiteral("cmdSeguir"));
-        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Panel_Control_Manager"));
+        declineFriendlies();
+        ASSERT_EQ(at(), "Panel_Control_Manager");
         runWeekEvents();
     }
 
-    void runWeekEvents()
+    // On the planner: every friendly declined, and on to the first week's panel.
+    void declineFriendlies()
     {
-        m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager"))->runWeekEvents();
-        settle();
+        for (int slot = 0; slot < 5; ++slot)
+            click("cmdNoJugar");
+        click("cmdSeguir");
     }
+
+    // The name of the screen on show.
+    QString at() { return m_navigator->current() ? m_navigator->current()->objectName() : QString(); }
+
+    // The broadcast of the week, when television bought it, taken.
+    void takeBroadcast()
+    {
+        if (m_navigator->screen("Tele"))
+            click("cmdOK");
+    }
+
+    ui::WeekPanel *panel() { return m_navigator->screen<ui::WeekPanel>("Panel_Control_Manager"); }
+    void runWeekEvents() { panel()->runWeekEvents(), settle(); }
 
     // On the call-up: the player of a grid row (any cell of it will do) to a place of the list.
     void placeRow(int gridRow, int place)
     {
-        auto *grid = find<QTableView>(QStringLiteral("DataGrid1"));
+        auto *grid = find<QTableView>("DataGrid1");
         grid->setCurrentIndex(grid->model()->index(gridRow, 2));
-        find<QListWidget>(QStringLiteral("list1"))->setCurrentRow(place);
-        click(QStringLiteral("cmdAñadir"));
+        find<QListWidget>("list1")->setCurrentRow(place);
+        click("cmdAñadir");
     }
 
     void callUpFirstFourteen()
     {
-        ASSERT_GE(find<QTableView>(QStringLiteral("DataGrid1"))->model()->rowCount(), 14);
+        ASSERT_GE(find<QTableView>("DataGrid1")->model()->rowCount(), 14);
         for (int place = 0; place < 14; ++place)
             placeRow(place, place);
     }
 
-    ui::MatchScreen *match() { return m_navigator->screen<ui::MatchScreen>(QStringLiteral("partido")); }
+    ui::MatchScreen *match() { return m_navigator->screen<ui::MatchScreen>("partido"); }
 
     // A half of the match on screen, from its kick-off to its whistle, tick by tick.
     void playHalf()
     {
-        click(QStringLiteral("cmdStart"));
+        click("cmdStart");
         for (int guard = 0; guard < 1000 && match()->engine().running(); ++guard)
             match()->tick();
         settle();
     }
 
-    // The week's match from the panel: the call-up (the first fourteen, when asked), both halves
-    // and "SALIR"; then the next week's events, a broadcast taken.
+    // The match from the call-up to full time; false when it does not start.
+    bool playMatch()
+    {
+        click("cmdJugar");
+        if (!match())
+            return false;
+        playHalf();
+        playHalf();
+        return true;
+    }
+
+    // Full time left by "SALIR", then the next week's events, a broadcast taken.
+    void leaveMatch()
+    {
+        click("cmdSalir");
+        runWeekEvents();
+        takeBroadcast();
+    }
+
+    // The week's match from the panel: the call-up (the first fourteen, when asked), the match
+    // and the way out to the next week.
     void playTheWeek(bool callUp)
     {
-        click(QStringLiteral("cmdSeguir"));
+        click("cmdSeguir");
         if (callUp)
             callUpFirstFourteen();
-        click(QStringLiteral("cmdJugar"));
-        ASSERT_NE(match(), nullptr) << m_dialogs.texts().join(QLatin1Char('|')).toStdString();
-        playHalf();
-        playHalf();
-        click(QStringLiteral("cmdSalir"));
-        settle();
-        runWeekEvents();
-        if (m_navigator->screen(QStringLiteral("Tele")))
-            click(QStringLiteral("cmdOK"));
+        ASSERT_TRUE(playMatch()) << m_dialogs.texts().join('|').toStdString();
+        leaveMatch();
     }
 
     // On the planner: a country's flag, then a club of its list by row.
     void chooseClub(const char *country, int row)
     {
         click(QString::fromUtf8(country));
-        auto *list = find<QListWidget>(QStringLiteral("DataList1"));
+        auto *list = find<QListWidget>("DataList1");
         ASSERT_NE(list, nullptr);
         ASSERT_GT(list->count(), row);
         QListWidgetItem *item = list->item(row);
@@ -292,6 +310,30 @@ protected:
             type(name, text);
         QFocusEvent leaving(QEvent::FocusOut, Qt::TabFocusReason);
         QApplication::sendEvent(box, &leaving);
+    }
+
+    // A label of a row of labels (the index-th of that name) on the screen on show or on another.
+    QLabel *entry(const QString &name, int index, QWidget *on = nullptr)
+    {
+        return indexed::find(on ? on : m_navigator->current(), name, index);
+    }
+
+    // The texts of the items of a list, in order.
+    static QStringList items(QListWidget *list)
+    {
+        QStringList texts;
+        for (int row = 0; row < list->count(); ++row)
+            texts << list->item(row)->text();
+        return texts;
+    }
+
+    // The texts of all the labels of a widget, on show or not.
+    static QStringList captions(QWidget *widget)
+    {
+        QStringList texts;
+        for (QLabel *label : widget->findChildren<QLabel *>())
+            texts << label->text();
+        return texts;
     }
 
     // The text of a box or a label of the game, or a note that it is missing.

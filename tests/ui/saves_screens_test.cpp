@@ -18,7 +18,7 @@ protected:
     void SetUp() override
     {
         ScreenTest::SetUp();
-        m_saves = std::make_unique<game::Saves>(m_folder.filePath(QStringLiteral("carreras")));
+        m_saves = std::make_unique<game::Saves>(m_folder.filePath("carreras"));
         m_navigator->setSaves(m_saves.get());
     }
 
@@ -26,18 +26,9 @@ protected:
     // with the week's events run.
     void reachFirstWeek()
     {
-        startCareerFromMenu(QStringLiteral("IBarcelona"));
-        for (int slot = 0; slot < 5; ++slot)
-            click(QStringLiteral("cmdNoJugar"));
-        click(QStringLiteral("cmdSeguir"));
-        panel()->runWeekEvents();
-        settle();
-        if (m_navigator->screen(QStringLiteral("Tele")))
-            click(QStringLiteral("cmdOK"));
+        reachFirstLeagueWeek("IBarcelona");
+        takeBroadcast();
     }
-
-    ui::WeekPanel *panel() { return m_navigator->screen<ui::WeekPanel>(QStringLiteral("Panel_Control_Manager")); }
-    QString shown() const { return m_navigator->current() ? m_navigator->current()->objectName() : QString(); }
 
     // Closes the main window by its frame, as the window manager does.
     bool closeWindow()
@@ -64,11 +55,11 @@ TEST_F(SavedScreens, everyWayOutOfACareerAsksAndKeepsTheCareer)
         const char *screenAfterYes;
     };
     const Way ways[] = {
-        {"panel", [this] { click(QStringLiteral("Command4")); }, "Form1"},
+        {"panel", [this] { click("Command4"); }, "Form1"},
         {"menu",
          [this] {
              goToMenu();
-             click(QStringLiteral("Image3"));
+             click("Image3");
          },
          nullptr},
         {"window", [this] { closeWindow(); }, nullptr},
@@ -93,7 +84,7 @@ TEST_F(SavedScreens, everyWayOutOfACareerAsksAndKeepsTheCareer)
         EXPECT_EQ(m_saves->latest()->week, week) << way.name;
         EXPECT_EQ(fileBytes(workingPath()), fileBytes(pristinePath())) << way.name;
         if (way.screenAfterYes)
-            EXPECT_EQ(shown(), QLatin1String(way.screenAfterYes)) << way.name;
+            EXPECT_EQ(at(), QLatin1String(way.screenAfterYes)) << way.name;
         else
             EXPECT_EQ(finished.count(), 1) << way.name;
         m_navigator.reset();
@@ -111,28 +102,27 @@ TEST_F(SavedScreens, everyWayOutOfACareerAsksAndKeepsTheCareer)
 TEST_F(SavedScreens, continuarTakesUpTheLastCareerAtTheSameWeek)
 {
     goToMenu();
-    screenshot(QStringLiteral("menu_continue"));
+    screenshot("menu_continue");
     m_dialogs.clear();
-    click(QStringLiteral("cmdContinuar")); // nothing saved yet
-    EXPECT_TRUE(m_dialogs.texts().value(0).contains(QStringLiteral("No hay ninguna carrera guardada")));
+    click("cmdContinuar"); // nothing saved yet
+    EXPECT_TRUE(m_dialogs.texts().value(0).contains("No hay ninguna carrera guardada"));
 
     reachFirstWeek();
     const QString ledger = dump("caja");
     const qint64 budget = m_store->integer("select presupuesto from infoteams where idequipo = 1");
     m_dialogs.answer({true});
-    click(QStringLiteral("Command4"));
-    ASSERT_EQ(shown(), QStringLiteral("Form1"));
+    click("Command4");
+    ASSERT_EQ(at(), "Form1");
 
     m_dialogs.clear();
-    click(QStringLiteral("cmdContinuar"));
-    ASSERT_EQ(shown(), QStringLiteral("Panel_Control_Manager"));
-    EXPECT_EQ(find<QLabel>(QStringLiteral("lblJornada"))->text(), QStringLiteral("1"));
+    click("cmdContinuar");
+    ASSERT_EQ(at(), "Panel_Control_Manager");
+    EXPECT_EQ(find<QLabel>("lblJornada")->text(), "1");
     EXPECT_EQ(dump("caja"), ledger);
     EXPECT_EQ(m_store->integer("select presupuesto from infoteams where idequipo = 1"), budget);
-    panel()->runWeekEvents();
-    settle();
+    runWeekEvents();
     EXPECT_TRUE(m_dialogs.texts().isEmpty()); // the week's events ran before it was saved
-    EXPECT_EQ(m_navigator->window().windowTitle().contains(QStringLiteral("Chema Ruiz")), true);
+    EXPECT_EQ(m_navigator->window().windowTitle().contains("Chema Ruiz"), true);
 }
 
 // Guards: a load list that shows what the saves do not say, deletes without asking or deletes
@@ -142,40 +132,40 @@ TEST_F(SavedScreens, theLoadListShowsEachCareerAndDeletesOnlyWhenAsked)
     for (const char *crest : {"IBarcelona", "IValencia"}) {
         startCareerFromMenu(QString::fromLatin1(crest));
         m_dialogs.answer({true});
-        click(QStringLiteral("cmdVOLVER")); // the planner back to the menu: the career stays
+        click("cmdVOLVER"); // the planner back to the menu: the career stays
         goToMenu();
-        click(QStringLiteral("Image3"));
+        click("Image3");
         m_navigator.reset();
         m_navigator = std::make_unique<app::Navigator>(*m_context, *m_window);
         m_navigator->setSaves(m_saves.get());
     }
     goToMenu();
-    click(QStringLiteral("cmdCargar"));
-    ASSERT_EQ(shown(), QStringLiteral("Cargar"));
-    auto *list = find<QTableView>(QStringLiteral("DGPartidas"));
+    click("cmdCargar");
+    ASSERT_EQ(at(), "Cargar");
+    auto *list = find<QTableView>("DGPartidas");
     ASSERT_NE(list, nullptr);
     ASSERT_EQ(list->model()->rowCount(), 2);
     // The latest first, with its crest, manager, club, season, week, date and budget.
-    EXPECT_EQ(cell(list, 0, 0), QStringLiteral("BM VALENCIA"));
+    EXPECT_EQ(cell(list, 0, 0), "BM VALENCIA");
     EXPECT_FALSE(list->model()->index(0, 0).data(Qt::DecorationRole).value<QPixmap>().isNull());
-    EXPECT_EQ(cell(list, 0, 1), QStringLiteral("Chema Ruiz"));
-    EXPECT_EQ(cell(list, 0, 2), QStringLiteral("2004-2005"));
-    EXPECT_EQ(cell(list, 0, 3), QStringLiteral("Pretemporada"));
-    EXPECT_TRUE(cell(list, 0, 5).endsWith(QStringLiteral(" €")));
-    screenshot(QStringLiteral("load"));
+    EXPECT_EQ(cell(list, 0, 1), "Chema Ruiz");
+    EXPECT_EQ(cell(list, 0, 2), "2004-2005");
+    EXPECT_EQ(cell(list, 0, 3), "Pretemporada");
+    EXPECT_TRUE(cell(list, 0, 5).endsWith(" €"));
+    screenshot("load");
 
     list->selectRow(1);
     m_dialogs.answer({false});
-    click(QStringLiteral("cmdBorrar"));
+    click("cmdBorrar");
     EXPECT_EQ(list->model()->rowCount(), 2);
     m_dialogs.answer({true});
-    click(QStringLiteral("cmdBorrar"));
+    click("cmdBorrar");
     ASSERT_EQ(list->model()->rowCount(), 1);
     EXPECT_EQ(m_saves->list().size(), 1u);
 
-    click(QStringLiteral("cmdCargar"));
-    ASSERT_EQ(shown(), QStringLiteral("Pretemporada"));
-    EXPECT_EQ(find<QLabel>(QStringLiteral("lblEquipo"))->text(), QStringLiteral("BM VALENCIA"));
+    click("cmdCargar");
+    ASSERT_EQ(at(), "Pretemporada");
+    EXPECT_EQ(find<QLabel>("lblEquipo")->text(), "BM VALENCIA");
 }
 
 // Guards: a history screen that loses a season, counts the place upside down, or draws no
@@ -200,11 +190,11 @@ TEST_F(SavedScreens, theHistoryTellsThreeSeasonsInATableAndTwoCharts)
     m_navigator->showPanel();
     settle();
     // The fourth season's dates fall three years on.
-    EXPECT_TRUE(find<QLabel>(QStringLiteral("lblFecha"))->text().endsWith(QStringLiteral("2007")));
+    EXPECT_TRUE(find<QLabel>("lblFecha")->text().endsWith("2007"));
 
-    click(QStringLiteral("cmdHistorial"));
-    ASSERT_EQ(shown(), QStringLiteral("Historial"));
-    auto *seasons = find<QTableView>(QStringLiteral("DGTemporadas"));
+    click("cmdHistorial");
+    ASSERT_EQ(at(), "Historial");
+    auto *seasons = find<QTableView>("DGTemporadas");
     ASSERT_NE(seasons, nullptr);
     ASSERT_EQ(seasons->model()->rowCount(), 3);
     for (int row = 0; row < 3; ++row) {
@@ -212,17 +202,17 @@ TEST_F(SavedScreens, theHistoryTellsThreeSeasonsInATableAndTwoCharts)
         EXPECT_EQ(cell(seasons, row, 1), summaries[std::size_t(row)].champion);
         EXPECT_EQ(cell(seasons, row, 2).toInt(), summaries[std::size_t(row)].place);
     }
-    auto *scorers = find<QTableView>(QStringLiteral("DGGoleadores"));
+    auto *scorers = find<QTableView>("DGGoleadores");
     ASSERT_NE(scorers, nullptr);
     EXPECT_GT(scorers->model()->rowCount(), 0); // the season under way
-    auto *picker = find<QComboBox>(QStringLiteral("cboTemporada"));
+    auto *picker = find<QComboBox>("cboTemporada");
     picker->setCurrentIndex(picker->count() - 1); // 2004-2005
-    EXPECT_EQ(cell(scorers, 0, 0), cell(seasons, 0, 10).section(QStringLiteral(" ("), 0, 0));
+    EXPECT_EQ(cell(scorers, 0, 0), cell(seasons, 0, 10).section(" (", 0, 0));
     for (const char *chart : {"chartPuestos", "chartPresupuesto"}) {
         auto *view = find<QChartView>(QString::fromLatin1(chart));
         ASSERT_NE(view, nullptr) << chart;
         ASSERT_FALSE(view->chart()->series().isEmpty()) << chart;
         EXPECT_EQ(qobject_cast<QXYSeries *>(view->chart()->series().front())->count(), 3) << chart;
     }
-    screenshot(QStringLiteral("history"));
+    screenshot("history");
 }
