@@ -131,11 +131,13 @@ INSTANTIATE_TEST_SUITE_P(
     [](const ::testing::TestParamInfo<Recorded> &info) { return std::string(info.param.name); });
 
 // Guards: a career begun on a refused choice, or steps taken out of their stage: orders
-// settled with no verdict, a season begun twice, a career with nothing to take up going on.
+// settled with no verdict, a season begun twice, a career with nothing to take up going on or
+// saved.
 TEST_F(CareerLife, aCareerTakesEachStepOnlyAtItsStage)
 {
     Career career(*m_context);
     EXPECT_FALSE(career.goOn());
+    EXPECT_FALSE(career.save()); // nothing to save, nowhere to save it
     EXPECT_FALSE(career.start({QStringLiteral("Ana"), QString(), 4, QStringLiteral("PORTLAND SAN ANTONIO")}));
     EXPECT_EQ(career.stage(), Stage::None);
     planCareer(career);
