@@ -132,7 +132,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 // Guards: a career begun on a refused choice, or steps taken out of their stage: orders
 // settled with no verdict, a season begun twice, a career with nothing to take up going on or
-// saved.
+// saved, a career begun again after leaving that keeps the last one's calendar.
 TEST_F(CareerLife, aCareerTakesEachStepOnlyAtItsStage)
 {
     Career career(*m_context);
@@ -148,6 +148,13 @@ TEST_F(CareerLife, aCareerTakesEachStepOnlyAtItsStage)
     EXPECT_FALSE(career.beginSeason());
     EXPECT_FALSE(career.goOn()); // an open week waits for its match
     EXPECT_EQ(career.week().number(), 1);
+
+    // Left for the menu and begun again: the new career makes its own calendar.
+    ASSERT_TRUE(career.leave().ok());
+    EXPECT_EQ(career.stage(), Stage::None);
+    planCareer(career);
+    ASSERT_TRUE(career.beginSeason());
+    EXPECT_EQ(count("calendario") * 100 + career.week().number(), 3001);
 }
 
 // Guards: a week whose opening failed (a full disk) left for good, or opened twice once the

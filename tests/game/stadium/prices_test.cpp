@@ -96,4 +96,12 @@ TEST(PricesHomeWeek, isAWeekWhoseMatchTheUsersClubPlaysAtHome)
     byName.club = 0;
     EXPECT_TRUE(Prices::homeWeek(home, byName));
     EXPECT_FALSE(Prices::homeWeek(away, byName));
+
+    // Club 1 whose stored name is not the fixture's: its id alone makes it home.
+    game::CareerRow first;
+    first.club = 1;
+    first.clubName = QStringLiteral("OTRO NOMBRE");
+    game::Fixture atHome = home;
+    atHome.homeId = 1;
+    EXPECT_TRUE(Prices::homeWeek(atHome, first));
 }

@@ -315,18 +315,23 @@ TEST_F(WorksTest, eachOrderIsRunAsStoredAndOneThatCannotBeIsToldAndTheWalkGoesOn
          " 'focos 1 120000 6', 'x')");
     exec("insert into selects values ('update estadios set min_gradas=7777 where idequipo=4', 1, 0, 0, 0, 0,"
          " 'gradas 1500 1000000 6', 'x')");
+    exec("insert into selects values ('update estadios set palco=1 where idequipo=4', 1, 0, 0, 0, 0,"
+         " 'focos 1 120000 6', 'x')"); // a column the stadium does not have
     Works works(*m_context);
     ASSERT_EQ(works.order({Choice::Lights300kW}), 1);
     m_dialogs.clear();
     openUntil(7);
-    EXPECT_EQ(works.runWeek(), 3);
+    EXPECT_EQ(works.runWeek(), 4);
     EXPECT_EQ(m_dialogs.texts(),
               (QStringList{QStringLiteral("Las Obras de La mejora de las FOCOS Han Terminado"),
                            QStringLiteral("La orden de las obras de FOCOS no es válida y no se ha podido cumplir: el "
                                           "estadio sigue como estaba."),
                            QStringLiteral("Las Obras de La mejora de las GRADAS Han Terminado"),
+                           QStringLiteral("Las Obras de La mejora de las FOCOS Han Terminado"),
+                           QStringLiteral("La orden de las obras de FOCOS no es válida y no se ha podido cumplir: el "
+                                          "estadio sigue como estaba."),
                            QStringLiteral("Las Obras de La mejora de las FOCOS Han Terminado")}));
-    EXPECT_EQ(row(7).remodelaciones, 120000 + 1000000 + 120000);
+    EXPECT_EQ(row(7).remodelaciones, 3 * 120000 + 1000000);
     EXPECT_EQ(stadium("focos"), 2);
     EXPECT_EQ(stadium("min_gradas"), 7777);
     EXPECT_EQ(count("selects"), 0);
