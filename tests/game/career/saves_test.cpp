@@ -299,9 +299,12 @@ TEST_F(SavedCareer, theHistoryTellsEachSeasonAsItsCloseLeftIt)
         EXPECT_EQ(history[row].won + history[row].drawn + history[row].lost, 30);
         EXPECT_EQ(2 * history[row].won + history[row].drawn, history[row].points);
         const int season = int(row) + 1;
-        EXPECT_EQ(history[row].topScorerGoals,
-                  value("select max(goles) from goleadores where temporada = ?", season));
-        EXPECT_FALSE(history[row].topScorer.isEmpty());
+        // The season's top scorer heads the season's list of scorers, by name and goals.
+        const std::vector<game::sql::career::Scorer> scorers = game::sql::career::scorers(*m_store, season);
+        ASSERT_FALSE(scorers.empty());
+        EXPECT_EQ(history[row].topScorer + u'|' + QString::number(history[row].topScorerGoals),
+                  scorers.front().name + u'|' + QString::number(scorers.front().goals));
+        EXPECT_EQ(scorers.front().goals, value("select max(goles) from goleadores where temporada = ?", season));
         // A busy manager signs every few weeks; the dearest signing is the season's largest sum.
         EXPECT_EQ(history[row].signingSum,
                   value("select max(importe) from traspasos where temporada = ? and tipo = 'fichaje'"
