@@ -1,6 +1,7 @@
 #include "league/fixture.h"
 #include "career/week.h"
 #include "careerfixture.h"
+#include "stadium/prices.h"
 #include "match/gate.h"
 #include "stadium/ledger.h"
 
@@ -143,6 +144,17 @@ INSTANTIATE_TEST_SUITE_P(
         HouseCase{.label = "hugeFullHouse", .capacity = 2000000000, .rivalClass = 1, .ticket = 100, .board = 100000,
                   .full = true}),
     [](const auto &info) { return std::string(info.param.label); });
+
+// Guards: prices the player set that hold for one match only, or go back at an away match.
+TEST_F(GateTest, pricesSetInAHomeWeekHoldInEveryLaterMatch)
+{
+    ASSERT_EQ(game::Prices(*m_context).raiseTicket(), 15);
+    using Match = std::pair<int, int>;
+    for (const auto &[home, away] : {Match{kClub, kRival}, Match{kRival, kClub}, Match{kClub, kRival}}) {
+        scriptHouse(home == kClub ? 3000 : 4000, {2000}, {10});
+        EXPECT_EQ(settle(home, away).gateTakings, 2000 * 15);
+    }
+}
 
 // Guards: an away match that pays the user or shows the user's hall instead of the rival's;
 // a hall without a stadium row given a crowd or gate money, or a posting made for it.
