@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <tuple>
+
 using game::Career;
 
 namespace {
@@ -311,5 +313,17 @@ TEST_F(SavedCareer, theHistoryTellsEachSeasonAsItsCloseLeftIt)
                                    " and jornada > 0",
                                    season));
         EXPECT_GT(history[row].signingSum, 0);
+        // The dearest signing and the dearest sale are named as the moves of that sum.
+        for (const auto &[kind, name, sum] : {std::tuple("fichaje", history[row].signing, history[row].signingSum),
+                                              std::tuple("venta", history[row].sale, history[row].saleSum)}) {
+            EXPECT_GE(value("select count(*) from traspasos where temporada = ? and tipo = ? and importe = ?"
+                            " and Nombre || ' ' || Apellidos = ?",
+                            season, QString::fromLatin1(kind), sum, name),
+                      1)
+                << kind << " of season " << season;
+            EXPECT_EQ(sum, value("select max(importe) from traspasos where temporada = ? and tipo = ?", season,
+                                 QString::fromLatin1(kind)))
+                << kind;
+        }
     }
 }
