@@ -371,9 +371,10 @@ protected:
                 continue;
             EXPECT_EQ(grid->horizontalScrollBar()->maximum(), 0) << at << grid->objectName().toStdString();
             for (int column = 0; column < grid->model()->columnCount(); ++column) {
-                if (!grid->isColumnHidden(column))
+                if (!grid->isColumnHidden(column)) {
                     EXPECT_GE(grid->columnWidth(column), grid->horizontalHeader()->sectionSizeHint(column))
                         << at << grid->objectName().toStdString() << " column " << column;
+                }
             }
         }
         auto insideAView = [screen](QWidget *widget) {
@@ -411,9 +412,10 @@ protected:
             }
             for (int j = i + 1; j < shown.size(); ++j) {
                 QWidget *other = shown[j];
-                if (!widget->isAncestorOf(other) && !other->isAncestorOf(widget))
+                if (!widget->isAncestorOf(other) && !other->isAncestorOf(widget)) {
                     EXPECT_FALSE(area(widget).intersects(area(other))) << name << " covers "
                                                                        << other->objectName().toStdString();
+                }
             }
         }
     }

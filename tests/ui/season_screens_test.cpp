@@ -64,8 +64,9 @@ protected:
             for (const char *name : {"lblEquipoL", "lblEquipoV"})
                 EXPECT_EQ(backgroundOf(entry(name, row)) == QColor(0xC0, 0xC0, 0x00), row == users)
                     << name << " round " << round << " row " << row;
-            if (!played)
+            if (!played) {
                 EXPECT_EQ(entry("lblRL", row)->text() + entry("lblRV", row)->text(), QString()) << round << "/" << row;
+            }
         }
     }
 };

@@ -444,9 +444,10 @@ TEST_F(StadiumScreens, aBoughtMatchOpensTeleWhichOnlyItsOkClosesAndPaysOnce)
     for (QLabel *text : tele->findChildren<QLabel *>())
         EXPECT_EQ(text->textFormat(), Qt::PlainText) << text->objectName().toStdString();
     for (QWidget *part : tele->findChildren<QWidget *>()) {
-        if (part->isVisible())
+        if (part->isVisible()) {
             EXPECT_TRUE(tele->rect().contains(QRect(part->mapTo(tele, QPoint(0, 0)), part->size())))
                 << part->objectName().toStdString();
+        }
     }
     screenshot("tele", tele);
 
