@@ -3,6 +3,7 @@
 #include "career/weekpanel.h"
 #include "common/elidedlabel.h"
 #include "common/indexedlabel.h"
+#include "match/callup.h"
 #include "match/matchscreen.h"
 #include "navigator.h"
 #include "tempstore.h"
@@ -268,6 +269,25 @@ protected:
     void leaveMatch()
     {
         click("cmdSalir");
+        runWeekEvents();
+        takeBroadcast();
+    }
+
+    // From an open week to the panel of the last round: the week is moved to the season's
+    // 29th and its match played without the screen, as a finished match comes back.
+    void reachLastRound()
+    {
+        exec("update datos_jugador set jornada = 29");
+        game::CallUp(*m_context).chooseBest();
+        game::MatchEngine *played = m_navigator->career().kickOff();
+        ASSERT_NE(played, nullptr);
+        while (!played->finished()) {
+            played->start();
+            while (played->running())
+                played->tick();
+        }
+        m_navigator->matchOver();
+        settle();
         runWeekEvents();
         takeBroadcast();
     }

@@ -34,26 +34,11 @@ protected:
     // played, then the 30th played from the panel as the player does.
     void playToTheVerdict()
     {
-        exec("update datos_jugador set jornada = 29");
-        game::CallUp(*m_context).chooseBest();
-        game::MatchEngine *played = m_navigator->career().kickOff();
-        ASSERT_NE(played, nullptr);
-        for (int half = 0; half < 2; ++half) {
-            played->start();
-            while (played->running())
-                played->tick();
-        }
-        m_navigator->matchOver();
-        settle();
-        runWeekEvents();
-        if (m_navigator->screen(QStringLiteral("Tele")))
-            click(QStringLiteral("cmdOK"));
+        reachLastRound();
+        ASSERT_FALSE(HasFatalFailure());
         click(QStringLiteral("cmdSeguir"));
         callUpFirstFourteen();
-        click(QStringLiteral("cmdJugar"));
-        ASSERT_NE(match(), nullptr);
-        playHalf();
-        playHalf();
+        ASSERT_TRUE(playMatch());
         click(QStringLiteral("cmdSalir"));
         settle();
     }

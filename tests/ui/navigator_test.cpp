@@ -256,19 +256,8 @@ TEST_F(NavigatorScreens, theLastRoundLeadsToTheVerdictAndTheNextPreseason)
 {
     reachFirstLeagueWeek();
     // The season is played up to its last week.
-    exec("update datos_jugador set jornada = 29");
-    game::CallUp(*m_context).chooseBest();
-    game::MatchEngine *played = m_navigator->career().kickOff();
-    ASSERT_NE(played, nullptr);
-    for (int half = 0; half < 2; ++half) {
-        played->start();
-        while (played->running())
-            played->tick();
-    }
-    m_navigator->matchOver();
-    settle();
-    runWeekEvents();
-    takeBroadcast();
+    reachLastRound();
+    ASSERT_FALSE(HasFatalFailure());
     ASSERT_EQ(text("lblJornada"), "30");
     click("cmdSeguir");
     callUpFirstFourteen();
