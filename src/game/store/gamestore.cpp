@@ -38,6 +38,8 @@ struct GameStore::Connection
     Connection(const std::string &path, bool readOnly)
         : db(path, (readOnly ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE) | SQLite::OPEN_NOMUTEX)
     {
+        for (const char *text : {"BEGIN IMMEDIATE", "COMMIT", "SAVEPOINT attempt", "RELEASE attempt"})
+            controls.emplace_back(db, text);
     }
 
     struct TextHash
@@ -49,6 +51,20 @@ struct GameStore::Connection
     SQLite::Database db;
     // Every statement compiled for a text; usually one, more while queries of it are nested.
     std::unordered_map<std::string, std::vector<std::unique_ptr<Prepared>>, TextHash, std::equal_to<>> statements;
+
+    // The statements that open and close transactions and the savepoints of attempt(), run
+    // thousands of times a season: compiled once with the connection, like every other
+    // statement, instead of parsed again at each use.
+    enum Control { Begin, Commit, Savepoint, Release };
+    std::vector<SQLite::Statement> controls;
+
+    void control(Control which)
+    {
+        SQLite::Statement &statement = controls[which];
+        statement.tryReset();
+        statement.exec();
+        statement.tryReset();
+    }
 
     // Finishes the statements that no query is reading through, as one that failed is left.
     void resetIdle()
@@ -378,14 +394,14 @@ Result GameStore::run(const std::function<void()> &body)
     }
     try {
         ensureOpen();
-        m_connection->db.exec("BEGIN IMMEDIATE");
+        m_connection->control(Connection::Begin);
     } catch (const std::exception &e) {
         return Result::failure(storeFailure(e));
     }
     ++m_transactionDepth;
     try {
         body();
-        m_connection->db.exec("COMMIT");
+        m_connection->control(Connection::Commit);
         --m_transactionDepth;
         return Result::success();
     } catch (const std::exception &e) {
@@ -409,11 +425,11 @@ bool GameStore::attempt(const std::function<void()> &step)
     // back all it wrote, and what the routine wrote before it stays.
     const bool inTransaction = m_transactionDepth > 0 && m_connection;
     if (inTransaction)
-        m_connection->db.exec("SAVEPOINT attempt");
+        m_connection->control(Connection::Savepoint);
     try {
         step();
         if (inTransaction)
-            m_connection->db.exec("RELEASE attempt");
+            m_connection->control(Connection::Release);
         return true;
     } catch (const std::runtime_error &) { // the database's failures, SQLite's own included
         if (inTransaction) {
