@@ -6,7 +6,6 @@
 #include "screenfixture.h"
 
 #include <QRegularExpression>
-#include <QSet>
 
 namespace {
 
@@ -53,30 +52,6 @@ TEST_F(NavigatorScreens, comingBackToThePanelNeverOpensTheWeekAgain)
     EXPECT_EQ(text("lblJornada"), "1");
 }
 
-// Guards: a panel button left disabled once its screen has been added to the game's table
-// after the panel was made (that every button is enabled for the game's own screens is held
-// by the first week's panel).
-TEST_F(NavigatorScreens, aPanelButtonFollowsWhetherItsScreenExistsEvenWhenAddedLater)
-{
-    reachFirstLeagueWeek();
-    // A panel whose game gains a screen after the panel was made: the button lights up the
-    // next time the week is shown, and asks for that screen.
-    QSet<QString> existing{"Caja"};
-    ui::WeekPanel panel(m_navigator->career(), [&existing](const QString &name) { return existing.contains(name); });
-    panel.showWeek();
-    auto *standings = panel.findChild<QPushButton *>("cmdClasificacion");
-    ASSERT_NE(standings, nullptr);
-    EXPECT_FALSE(standings->isEnabled());
-    EXPECT_TRUE(panel.findChild<QPushButton *>("cmdCaja")->isEnabled());
-    existing.insert("Clasificacion");
-    panel.showWeek();
-    EXPECT_TRUE(standings->isEnabled());
-    QStringList asked;
-    QObject::connect(&panel, &ui::WeekPanel::openRequested, [&asked](const QString &name) { asked << name; });
-    standings->click();
-    EXPECT_EQ(asked, QStringList{"Clasificacion"});
-}
-
 // Guards: a window title showing a column name or an empty argument instead of the manager,
 // his club and the week's real fixture, or still titled after a page that has closed ("LA
 // CAJA" over the panel).
@@ -110,9 +85,8 @@ TEST_F(NavigatorScreens, theWindowTitlesNameTheManagerTheClubAndTheRealFixture)
 // move on, a ledger row lost or doubled, the call-up forgotten between weeks, a panel or match
 // that outgrows the 1280×720 window; a work ordered that never ends or ends early, its cost
 // missing from the ledger, a price set on match day that the gate does not use, a broadcast
-// that pays nothing; an offer answered early, late or never, a signing that does not move the
-// player, a listed player never bid for, or a sale that leaves him in the squad or pays nothing.
-TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowEndTheWorksAnswerTheOffersAndKeepTheirSize)
+// that pays nothing.
+TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowEndTheWorksPayThePricesSetAndKeepTheirSize)
 {
     reachFirstLeagueWeek(); // Valencia: toilets at the second level, a shop already built
     int broadcasts = 0;
@@ -132,32 +106,7 @@ TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowEndTheWorksAnswerTheOffersAndK
     EXPECT_EQ(m_dialogs.texts(), QStringList{"Las Obras Empezarán en la Jornada Actual"});
     click("cmdVOLVER");
 
-    // An offer for a listed back, at the terms he asks.
-    click("cmdfichar");
-    auto *backs = find<QTableView>("DGLaterales");
-    const int signing = backs->model()->index(0, 0).data().toInt();
-    ASSERT_GT(signing, 0);
-    pickRow(backs, 0);
-    ASSERT_EQ(at(), "Fichar_Jugadores");
-    click("cmdfichar");
-    EXPECT_EQ(value("select count(*) from selects where jugador = ? and jornada = 1", signing), 1);
-    click("cmdVOLVER");
-
-    // One of the squad listed from its contract screen, the rest too, so that bids come.
-    click("cmdPlantilla");
-    auto *centres = find<QTableView>("DataGrid4");
-    const int listed = centres->model()->index(0, 0).data().toInt();
-    pickRow(centres, 0);
-    ASSERT_EQ(at(), "Renovar");
-    click("cmdTransferir");
-    EXPECT_EQ(value("select venta from jugadores where idjugador = ?", listed), 1);
-    click("cmdCancelar");
-    click("cmdVOLVER");
-    exec("update jugadores set venta = 1 where idequipo = ? and idjugador <> ?", club(), listed);
-    m_dialogs.answer({true, true, true, true, true, true, true, true, true, true});
-
-    bool pricedAHomeMatch = false, signedHim = false;
-    int sales = 0;
+    bool pricedAHomeMatch = false;
     for (int week = 1; week <= 10; ++week) {
         ASSERT_EQ(at(), kPanel) << week;
         EXPECT_EQ(text("lblJornada"), QString::number(week));
@@ -184,20 +133,10 @@ TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowEndTheWorksAnswerTheOffersAndK
             EXPECT_EQ(value("select precio_entrada from entradas where idPrecio = 1"), 15);
             click("cmdVOLVER");
         }
-        // The squad once chosen stays: only the first week calls anyone up. A sold man leaves
-        // a hole in the fourteen: the next of the squad not called up takes it.
+        // The squad once chosen stays: only the first week calls anyone up.
         click("cmdSeguir");
         if (week == 1)
             callUpFirstFourteen();
-        auto *grid = find<QTableView>("DataGrid1");
-        for (int place = 0, row = 0; place < 14; ++place) {
-            if (!find<QListWidget>("list1")->item(place)->text().endsWith(" - "))
-                continue;
-            while (row < grid->model()->rowCount()
-                   && value("select count(*) from miequipo where idjugador = ?", cell(grid, row, 0).toInt()) > 0)
-                ++row;
-            placeRow(row, place);
-        }
         click("cmdJugar");
         ASSERT_NE(match(), nullptr) << week << ' ' << m_dialogs.texts().join('|').toStdString();
         if (pricing) {
@@ -220,19 +159,10 @@ TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowEndTheWorksAnswerTheOffersAndK
         runWeekEvents();
         takeBroadcast();
 
-        // The work ends at the opening of the week it was ordered in plus its three weeks; the
-        // offer of week 1 is answered at the opening of week 4, not before.
+        // The work ends at the opening of the week it was ordered in plus its three weeks.
         const int opened = week + 1;
         EXPECT_EQ(m_dialogs.texts().contains("Las Obras de La mejora de las LAVABOS Han Terminado"), opened == 4) << opened;
         EXPECT_EQ(value("select lavabos from estadios where idequipo = ?", club()), opened >= 4 ? 3 : 2) << opened;
-        const bool answered = value("select idequipo from jugadores where idjugador = ?", signing) == club();
-        EXPECT_EQ(answered, opened >= 4) << opened;
-        if (answered && !signedHim) {
-            EXPECT_TRUE(m_dialogs.texts().join('|').contains("Has Fichado a ")) << opened;
-            EXPECT_GT(value("select Gastos_Fichajes from caja where semana = ?", opened), 0);
-            signedHim = true;
-        }
-        sales += int(value("select count(*) from caja where semana = ? and Ingresos_Venta_Jugador > 0", opened));
         if (opened == 4) {
             click("cmdCaja");
             ASSERT_EQ(at(), "Caja");
@@ -245,9 +175,7 @@ TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowEndTheWorksAnswerTheOffersAndK
     EXPECT_EQ(text("lblJornada"), "11");
     EXPECT_EQ(value("select count(*) from liga_asobal where jornada <= 10 and goles_equipo_local + goles_equipo_visitante > 0"),
               80);
-    EXPECT_TRUE(pricedAHomeMatch && signedHim);
-    EXPECT_GT(sales, 0);
-    EXPECT_GE(value("select count(*) from jugadores where idequipo = ?", club()), 14);
+    EXPECT_TRUE(pricedAHomeMatch);
 }
 
 // Guards: a career that stops after the last round, a verdict that never shows, orders left
@@ -303,8 +231,9 @@ TEST_F(NavigatorScreens, theLastRoundLeadsToTheVerdictAndTheNextPreseason)
 }
 
 // Guards: forty-letter names of players and a very long rival club widening the match
-// screen past the window, or the window with it.
-TEST_F(NavigatorScreens, theMatchScreenFitsTheWindowWhateverTheNames)
+// screen past the window, or the window with it; a match that lets the panel show round it,
+// a score that does not follow the goals in figures, and commentary lines cut at the edge.
+TEST_F(NavigatorScreens, theMatchCoversTheWindowFollowsTheScoreAndWrapsEveryLineWhateverTheNames)
 {
     startCareerFromMenu("IValencia");
     ASSERT_EQ(at(), "Pretemporada");
@@ -327,9 +256,44 @@ TEST_F(NavigatorScreens, theMatchScreenFitsTheWindowWhateverTheNames)
     callUpFirstFourteen();
     click("cmdJugar");
     ASSERT_NE(match(), nullptr);
-    playHalf();
+    EXPECT_EQ(QRect(match()->mapToGlobal(QPoint()), match()->size()),
+              QRect(m_window->mapToGlobal(QPoint()), m_window->size()));
+
+    // Each goal shows at once in figures, whole.
+    for (int half = 0; half < 2; ++half) {
+        click("cmdStart");
+        for (int guard = 0; guard < 1000 && match()->engine().running(); ++guard) {
+            const int goals = match()->engine().score(0) + match()->engine().score(1);
+            match()->tick();
+            if (match()->engine().score(0) + match()->engine().score(1) == goals)
+                continue;
+            settle();
+            for (int side = 0; side < 2; ++side) {
+                auto *score = entry("lblMarcador", side, match());
+                ASSERT_EQ(score->text(), QString::number(match()->engine().score(side)));
+                ASSERT_GE(score->width(), score->sizeHint().width()) << "the score " << score->text().toStdString();
+            }
+        }
+    }
+    settle();
+    EXPECT_GT(match()->engine().score(0) + match()->engine().score(1), 10);
     expectMatchFits(1);
     EXPECT_LE(match()->sizeHint().width(), kWindow.width());
     EXPECT_LE(match()->minimumSizeHint().width(), kWindow.width());
+
+    // Long names make long lines: each wraps within the list, none cut.
+    auto *lines = find<QListWidget>("list2");
+    EXPECT_EQ(lines->horizontalScrollBar()->maximum(), 0);
+    const QFontMetrics metrics(lines->font());
+    int longest = 0;
+    for (int row = 0; row < lines->count(); ++row) {
+        QListWidgetItem *line = lines->item(row);
+        const QRect room = lines->visualItemRect(line);
+        const QRect needed = metrics.boundingRect(QRect(0, 0, room.width(), 10000), Qt::TextWordWrap, line->text());
+        EXPECT_LE(room.right(), lines->viewport()->width()) << line->text().toStdString();
+        EXPECT_LE(needed.height(), room.height()) << line->text().toStdString();
+        longest = std::max(longest, metrics.horizontalAdvance(line->text()));
+    }
+    EXPECT_GT(longest, lines->viewport()->width()); // some line had to wrap
     screenshot("match_long_names", match());
 }

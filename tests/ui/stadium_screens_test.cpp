@@ -307,16 +307,8 @@ TEST_F(StadiumScreens, ticksClearTheirChoiceAndOrderedWorksShowUnderWayAtTheNext
     for (const QString &name : {box(1), QString("cmdParking"), box(5), QString("cmdEquipamiento"), box(6),
                                 QString("cmdServicios"), QString("cmdTienda"), box(21), QString("cmdYA")})
         click(name);
-    EXPECT_EQ(dump("selects"),
-              QStringLiteral("update estadios set min_gradas=17000 where idequipo=%1|1|0|0|0|0|gradas 1000 1000000 12|"
-                             "update infoteams set presupuesto=presupuesto - 1000000 where idequipo=%1|\n"
-                             "update estadios set parking=1 where idequipo=%1|1|0|0|0|0|parking 0 3500000 30|"
-                             "update infoteams set presupuesto=presupuesto - 3500000 where idequipo=%1|\n"
-                             "update estadios set focos=1 where idequipo=%1|1|0|0|0|0|focos 1 120000 6|"
-                             "update infoteams set presupuesto=presupuesto - 120000 where idequipo=%1|\n"
-                             "update estadios set tienda=1 where idequipo=%1|1|0|0|0|0|tienda 0 90000 7|"
-                             "update infoteams set presupuesto=presupuesto - 90000 where idequipo=%1|\n")
-                  .arg(club()));
+    EXPECT_EQ(m_store->text("select group_concat(observaciones, '/') from selects"),
+              "gradas 1000 1000000 12/parking 0 3500000 30/focos 1 120000 6/tienda 0 90000 7");
     ASSERT_EQ(m_dialogs.messages().size(), 1u);
     EXPECT_EQ(m_dialogs.messages()[0].text, kOrdered);
     EXPECT_EQ(m_dialogs.messages()[0].title, "Remodelación");
