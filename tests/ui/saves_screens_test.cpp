@@ -43,7 +43,7 @@ protected:
 };
 
 // Guards: a way out of a career that throws it away without a word, or asks and still leaves
-// when the player says No, or leaves without saving it.
+// when the player says No, leaves without saving it, or leaves its screens or file behind.
 TEST_F(SavedScreens, everyWayOutOfACareerAsksAndKeepsTheCareer)
 {
     const QString question = QStringLiteral("Salir|¿Salir de la partida? La carrera queda guardada y podrás continuarla "
@@ -83,10 +83,12 @@ TEST_F(SavedScreens, everyWayOutOfACareerAsksAndKeepsTheCareer)
         ASSERT_TRUE(m_saves->latest().has_value()) << way.name;
         EXPECT_EQ(m_saves->latest()->week, week) << way.name;
         EXPECT_EQ(fileBytes(workingPath()), fileBytes(pristinePath())) << way.name;
-        if (way.screenAfterYes)
+        if (way.screenAfterYes) {
             EXPECT_EQ(at(), QLatin1String(way.screenAfterYes)) << way.name;
-        else
+            EXPECT_EQ(find("Panel_Control_Manager"), nullptr) << way.name;
+        } else {
             EXPECT_EQ(finished.count(), 1) << way.name;
+        }
         m_navigator.reset();
         m_navigator = std::make_unique<app::Navigator>(*m_context, *m_window);
         m_navigator->setSaves(m_saves.get());

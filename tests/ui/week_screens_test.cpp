@@ -99,27 +99,3 @@ TEST_F(WeekScreens, aPlannedSeasonOpensWeekOneWithItsFixtureLedgerAndCalendar)
     click("cmdVOLVER");
     EXPECT_EQ(at(), "Panel_Control_Manager");
 }
-
-// Guards: "SALIR" on the panel that leaves the career's screens or the old file behind.
-TEST_F(WeekScreens, leavingTheCareerRestoresTheFileAndANewCareerGetsAFreshPanel)
-{
-    startCareerFromMenu("IBarcelona");
-    declineFriendlies();
-    ASSERT_EQ(at(), "Panel_Control_Manager");
-    EXPECT_EQ(text("Tipo"), "LIGA");
-    click("c");
-    runWeekEvents();
-
-    click("cmdVOLVER");
-    m_dialogs.answer({true}); // "¿Salir de la partida? ..." Yes
-    click("Command4");
-    EXPECT_EQ(at(), "Form1");
-    EXPECT_EQ(find("Panel_Control_Manager"), nullptr);
-    EXPECT_EQ(find("Calendario"), nullptr);
-    EXPECT_EQ(fileBytes(workingPath()), fileBytes(pristinePath()));
-
-    startCareerFromMenu("IAlmeria");
-    declineFriendlies();
-    EXPECT_EQ(text("lblJornada"), "1");
-    EXPECT_EQ(count("caja"), 1);
-}
