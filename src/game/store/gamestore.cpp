@@ -159,6 +159,10 @@ Result GameStore::openConnection(bool readOnly)
             if (!check.executeStep() || check.getColumn(0).getString() != "ok")
                 throw SQLite::Exception("the file fails SQLite's quick check");
         } else {
+            // The game is the file's one user (a session holds its folder alone), so the
+            // connection keeps its lock from the first write on instead of taking and leaving
+            // it at every transaction, and the log's index lives in the connection's memory.
+            connection->db.exec("PRAGMA locking_mode=EXCLUSIVE");
             connection->db.exec("PRAGMA journal_mode=WAL");
             connection->db.exec("PRAGMA synchronous=NORMAL");
         }
