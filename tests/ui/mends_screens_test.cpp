@@ -1,9 +1,8 @@
-// Screens as the player meets them at their edges: the ledger's chart, the seasons' names, the
-// planner at its limits, a pasted sum, the match window, and the verdict.
+// Screens as the player meets them at their edges: the ledger's chart, the planner at its
+// limits, a pasted sum, and the verdict.
 
-#include "common/artwork.h"
 #include "career/seasonclose.h"
-#include "match/callup.h"
+#include "common/artwork.h"
 #include "reports/verdictscreen.h"
 #include "screenfixture.h"
 
@@ -27,19 +26,6 @@ protected:
         for (QLabel *label : m_navigator->current()->findChildren<QLabel *>())
             texts.emplace_back(label->objectName() + label->property("index").toString(), label->text());
         return texts;
-    }
-
-    // From an open week to the verdict: the week is moved to the season's 29th, its match
-    // played, then the 30th played from the panel as the player does.
-    void playToTheVerdict()
-    {
-        reachLastRound();
-        ASSERT_FALSE(HasFatalFailure());
-        click(QStringLiteral("cmdSeguir"));
-        callUpFirstFourteen();
-        ASSERT_TRUE(playMatch());
-        click(QStringLiteral("cmdSalir"));
-        settle();
     }
 };
 
@@ -89,44 +75,6 @@ TEST_F(MendsScreens, theLedgerChartsEachWeekOfTheSeasonFromItsRow)
             << widget->objectName().toStdString();
     }
     screenshot(QStringLiteral("ledger_chart"));
-}
-
-// Guards: a verdict that does not say which season it closes, or says the first one every
-// year; the panel and the calendar of a later season on the first one's dates; a verdict that
-// Escape takes away before it is read.
-TEST_F(MendsScreens, eachSeasonIsNamedByItsYearsOnTheVerdictThePanelAndTheCalendar)
-{
-    reachFirstLeagueWeek();
-    for (const char *years : {"2004-2005", "2005-2006"}) {
-        playToTheVerdict();
-        ASSERT_FALSE(HasFatalFailure());
-        auto *verdict = m_navigator->screen<QDialog>(QStringLiteral("Finall"));
-        ASSERT_NE(verdict, nullptr) << years;
-        EXPECT_EQ(text(QStringLiteral("lblTemporada")), QStringLiteral("Temporada ") + QLatin1String(years));
-        QTest::keyClick(verdict, Qt::Key_Escape);
-        settle();
-        ASSERT_EQ(m_navigator->screen(QStringLiteral("Finall")), verdict);
-        EXPECT_TRUE(verdict->isVisible());
-        click(QStringLiteral("cmdOK"));
-        ASSERT_EQ(m_navigator->current()->objectName(), QStringLiteral("Pretemporada"));
-        if (QLatin1String(years) == QLatin1String("2005-2006"))
-            break;
-
-        // The second season's first week: its match and the calendar fall in 2005-2006.
-        for (int slot = 0; slot < 5; ++slot)
-            click(QStringLiteral("cmdNoJugar"));
-        click(QStringLiteral("cmdSeguir"));
-        runWeekEvents();
-        if (m_navigator->screen(QStringLiteral("Tele")))
-            click(QStringLiteral("cmdOK"));
-        EXPECT_TRUE(m_window->windowTitle().contains(QStringLiteral("/2005 "))) << m_window->windowTitle().toStdString();
-        click(QStringLiteral("c"));
-        for (int row = 0; row < 7; ++row) {
-            const QString date = indexed::find(m_navigator->current(), QStringLiteral("lblFecha"), row)->text();
-            EXPECT_TRUE(date.endsWith(QStringLiteral("/2005")) || date.endsWith(QStringLiteral("/2006"))) << row;
-        }
-        click(QStringLiteral("cmdVOLVER"));
-    }
 }
 
 // Guards: a champion shown with another club's crest, the bottom two read from the wrong end

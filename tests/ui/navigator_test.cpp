@@ -178,56 +178,74 @@ TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowEndTheWorksPayThePricesSetAndK
     EXPECT_TRUE(pricedAHomeMatch);
 }
 
-// Guards: a career that stops after the last round, a verdict that never shows, orders left
-// for a season that no longer exists, or a new season whose first week is charged twice.
-TEST_F(NavigatorScreens, theLastRoundLeadsToTheVerdictAndTheNextPreseason)
+// Guards: a career that stops after the last round, a verdict that never shows or does not
+// say which season it closes (the first one every year), orders left for a season that no
+// longer exists, a new season whose first week is charged twice, and the panel and calendar
+// of a later season on the first one's dates.
+TEST_F(NavigatorScreens, theLastRoundLeadsToTheVerdictAndTheNextSeasonOnItsOwnYears)
 {
     reachFirstLeagueWeek();
-    // The season is played up to its last week.
-    reachLastRound();
-    ASSERT_FALSE(HasFatalFailure());
-    ASSERT_EQ(text("lblJornada"), "30");
-    click("cmdSeguir");
-    callUpFirstFourteen();
-    ASSERT_TRUE(playMatch());
-    click("cmdSalir");
+    for (const QString years : {"2004-2005", "2005-2006"}) {
+        // The season is played up to its last week.
+        reachLastRound();
+        ASSERT_FALSE(HasFatalFailure());
+        ASSERT_EQ(text("lblJornada"), "30");
+        click("cmdSeguir");
+        callUpFirstFourteen();
+        ASSERT_TRUE(playMatch());
+        click("cmdSalir");
 
-    // The week after the last: the verdict, over the window.
-    QWidget *verdict = m_navigator->screen("Finall");
-    ASSERT_NE(verdict, nullptr);
-    EXPECT_TRUE(verdict->isVisible());
-    EXPECT_EQ(text("win"), m_store->text("select NombreEquipo from equipos where idequipo ="
-                                         " (select teams from asobal where puesto_anterior = 16)"));
-    EXPECT_EQ(text("pos"), m_store->text("select puesto_anterior from asobal where teams = ?", club()));
-    EXPECT_EQ(count("calendario") + count("caja"), 0);
-    screenshot("season_verdict", verdict);
+        // The week after the last: the verdict, over the window.
+        QWidget *verdict = m_navigator->screen("Finall");
+        ASSERT_NE(verdict, nullptr);
+        EXPECT_TRUE(verdict->isVisible());
+        EXPECT_EQ(text("lblTemporada"), "Temporada " + years);
+        if (years == "2005-2006")
+            break;
+        EXPECT_EQ(text("win"), m_store->text("select NombreEquipo from equipos where idequipo ="
+                                             " (select teams from asobal where puesto_anterior = 16)"));
+        EXPECT_EQ(text("pos"), m_store->text("select puesto_anterior from asobal where teams = ?", club()));
+        EXPECT_EQ(count("calendario") + count("caja"), 0);
+        screenshot("season_verdict", verdict);
 
-    click("cmdOK");
-    EXPECT_EQ(m_navigator->screen("Finall"), nullptr);
-    ASSERT_EQ(at(), "Pretemporada");
-    EXPECT_EQ(count("selects") + count("pretemporada"), 0);
-    EXPECT_EQ(value("select jornada from datos_jugador"), 0);
+        click("cmdOK");
+        EXPECT_EQ(m_navigator->screen("Finall"), nullptr);
+        ASSERT_EQ(at(), "Pretemporada");
+        EXPECT_EQ(count("selects") + count("pretemporada"), 0);
+        EXPECT_EQ(value("select jornada from datos_jugador"), 0);
 
-    const qint64 budget = value("select presupuesto from infoteams where idequipo = ?", club());
-    declineFriendlies();
-    ASSERT_EQ(at(), kPanel);
-    EXPECT_EQ(text("lblJornada"), "1");
-    EXPECT_EQ(count("caja"), 1);
-    EXPECT_EQ(value("select presupuesto from infoteams where idequipo = ?", club()),
-              budget - value("select Gastos_Fichas + Gastos_Empleados from caja where semana = 1"));
+        const qint64 budget = value("select presupuesto from infoteams where idequipo = ?", club());
+        declineFriendlies();
+        ASSERT_EQ(at(), kPanel);
+        EXPECT_EQ(text("lblJornada"), "1");
+        EXPECT_EQ(count("caja"), 1);
+        EXPECT_EQ(value("select presupuesto from infoteams where idequipo = ?", club()),
+                  budget - value("select Gastos_Fichas + Gastos_Empleados from caja where semana = 1"));
+        runWeekEvents();
+        takeBroadcast();
+        // The second season's first week: its match and the calendar fall in 2005-2006.
+        EXPECT_TRUE(m_window->windowTitle().contains("/2005 ")) << m_window->windowTitle().toStdString();
+        click("c");
+        for (int row = 0; row < 7; ++row) {
+            const QString date = entry("lblFecha", row)->text();
+            EXPECT_TRUE(date.endsWith("/2005") || date.endsWith("/2006")) << row;
+        }
+        click("cmdVOLVER");
 
-    // The close ranked the champion 16; the table of the new season, everybody on nought, puts
-    // the first club at the top and writes 1 there, while last season's places stay for the
-    // fixtures.
-    const int champion = int(value("select teams from asobal where puesto_anterior = 16"));
-    EXPECT_EQ(value("select puesto_actual from asobal where teams = ?", champion), 16);
-    click("cmdClasificacion");
-    ASSERT_EQ(at(), "Clasificacion");
-    EXPECT_EQ(entry("lblPos", 0)->text(), "1");
-    EXPECT_EQ(entry("lblEquipo", 0)->text(), m_store->text("select NombreEquipo from equipos where idequipo = 1"));
-    EXPECT_EQ(value("select puesto_actual from asobal where teams = 1"), 1);
-    EXPECT_EQ(value("select count(distinct puesto_actual) from asobal where puesto_actual between 1 and 16"), 16);
-    EXPECT_EQ(value("select puesto_anterior from asobal where teams = ?", champion), 16);
+        // The close ranked the champion 16; the table of the new season, everybody on nought,
+        // puts the first club at the top and writes 1 there, while last season's places stay
+        // for the fixtures.
+        const int champion = int(value("select teams from asobal where puesto_anterior = 16"));
+        EXPECT_EQ(value("select puesto_actual from asobal where teams = ?", champion), 16);
+        click("cmdClasificacion");
+        ASSERT_EQ(at(), "Clasificacion");
+        EXPECT_EQ(entry("lblPos", 0)->text(), "1");
+        EXPECT_EQ(entry("lblEquipo", 0)->text(), m_store->text("select NombreEquipo from equipos where idequipo = 1"));
+        EXPECT_EQ(value("select puesto_actual from asobal where teams = 1"), 1);
+        EXPECT_EQ(value("select count(distinct puesto_actual) from asobal where puesto_actual between 1 and 16"), 16);
+        EXPECT_EQ(value("select puesto_anterior from asobal where teams = ?", champion), 16);
+        click("cmdVOLVER");
+    }
 }
 
 // Guards: forty-letter names of players and a very long rival club widening the match

@@ -243,36 +243,6 @@ TEST_F(WorksTest, aWorkUnderWayClosesItsGroupAndAServiceWorkTheHeatingToo)
     EXPECT_EQ(count("selects where observaciones = ' '"), 1);
 }
 
-// Guards: a work that ends a week early or late, its cost taken from the budget instead of
-// the week's ledger row, or the stadium left unchanged.
-TEST_F(WorksTest, aWorkEndsAtTheOpeningOfItsOrderWeekPlusItsWeeks)
-{
-    setStadium({{"focos", 0}, {"tienda", 0}});
-    Works works(*m_context);
-    ASSERT_EQ(works.order({Choice::Lights170kW}), 1); // week 1, six weeks
-    m_dialogs.clear();
-    for (int week = 2; week <= 6; ++week) {
-        openUntil(week);
-        EXPECT_EQ(works.runWeek(), 0) << week;
-    }
-    EXPECT_TRUE(m_dialogs.messages().empty());
-    EXPECT_EQ(stadium("focos"), 0);
-
-    openUntil(7);
-    const Ledger::Row opened = row(7);
-    const qint64 budgetBefore = budget();
-    EXPECT_EQ(works.runWeek(), 1);
-    EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("Las Obras de La mejora de las FOCOS Han Terminado")});
-    EXPECT_EQ(stadium("focos"), 1);
-    EXPECT_EQ(count("selects"), 0);
-    const Ledger::Row paid = row(7);
-    EXPECT_EQ(paid.remodelaciones, 120000);
-    EXPECT_EQ(paid.gastos, opened.gastos + 120000);
-    EXPECT_EQ(paid.caja, opened.caja - 120000);
-    EXPECT_EQ(budget(), budgetBefore);
-    EXPECT_EQ(row(6).remodelaciones, 0);
-}
-
 // Guards: the second of two identical orders skipped, charged twice, or deleting both rows at
 // once; a pending offer touched by the walk.
 TEST_F(WorksTest, twoIdenticalOrdersBothEndAndAreEachChargedOnce)
