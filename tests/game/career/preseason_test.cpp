@@ -63,28 +63,6 @@ TEST_F(PreseasonPlanner, dealsTheFiveSlotsInOrderAndPlaysOnlyThePresentationAtHo
     EXPECT_EQ(count("calendario") + count("jugadores where venta = 1"), 0);
 }
 
-// Guards: a declined slot that still takes a week and pushes the league back, the league
-// out of round order, or a friendly's date lost.
-TEST_F(PreseasonPlanner, declinedSlotsTakeNoWeekAndTheLeagueFollowsByRound)
-{
-    m_planner->decline();
-    m_planner->choose(m_rivals.at(0));
-    m_planner->decline();
-    m_planner->choose(m_rivals.at(1));
-    m_planner->choose(m_rivals.at(2));
-    ASSERT_TRUE(m_planner->proceed());
-    std::vector<int> expected{2, 4, 5};
-    const int position = int(value("select puesto_anterior from asobal where teams = ?", kClub));
-    for (auto rows = m_store->query("select idpartido from liga_asobal where ? in (pos_equipo_local, pos_equipo_visitante)"
-                                    " order by jornada",
-                                    position);
-         rows.next();)
-        expected.push_back(rows.integer(0));
-    EXPECT_EQ(calendar(), expected);
-    EXPECT_EQ(text("select group_concat(fecha) from (select fecha from calendario where semana in (2, 4) order by semana)"),
-              QStringLiteral("2004-08-21,") + text("select fecha from liga_asobal where idpartido = ?", expected[3]));
-}
-
 // Guards: a market that lists the youths, the released players or the user's own squad, or
 // that draws other than seventy-six times.
 TEST_F(PreseasonPlanner, drawsTheMarketSeventySixTimesAmongOtherClubsOnly)

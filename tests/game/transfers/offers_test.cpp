@@ -1,5 +1,4 @@
 #include "careerfixture.h"
-#include "money.h"
 #include "stadium/ledger.h"
 #include "transfers/offers.h"
 #include "transfers/terms.h"
@@ -52,39 +51,6 @@ protected:
 
     int m_player = 0, m_other = 0, m_clause = 0, m_wage = 0;
 };
-
-// Guards: an answer before the third week, or never; equal terms refused; the shirt taken at
-// the answer instead of at the offer; the sum charged to the budget instead of the week; his
-// wage paid for the week he came in.
-TEST_F(OffersTest, anOfferOnTheEdgeOfEveryTermIsSignedThreeWeeksLater)
-{
-    goToWeek(5);
-    const int shirt = int(value("select max(Dorsal) from jugadores where idequipo = ?", kClub)) + 1;
-    ASSERT_TRUE(Offers(*m_context).make(m_player, askingTerms(m_player)));
-    for (int week = 6; week <= 7; ++week) {
-        goToWeek(week);
-        EXPECT_EQ(Offers(*m_context).settleDue().signings, 0) << week;
-    }
-    EXPECT_EQ(count("selects"), 1);
-    EXPECT_TRUE(m_dialogs.texts().isEmpty()); // nothing is said when an offer is made
-    goToWeek(8);
-    const qint64 budget = value("select presupuesto from infoteams where idequipo = ?", kClub);
-    const QString signed_ = signing(m_player, kAbroad);
-    EXPECT_EQ(Offers(*m_context).settleDue().signings, 1);
-    EXPECT_EQ(m_dialogs.texts(), QStringList{signed_});
-    EXPECT_EQ(m_dialogs.messages().back().icon, game::Dialogs::Icon::Information);
-    EXPECT_EQ(text("select idequipo || '|' || Dorsal || '|' || Ficha || '|' || Clausula_Recision || '|' || venta"
-                   " || '|' || \"Años_Contrato\" from jugadores where idjugador = ?",
-                   m_player),
-              QStringLiteral("%1|%2|%3|%4|0|3").arg(kClub).arg(shirt).arg(m_wage).arg(2 * m_clause));
-    EXPECT_EQ(std::tuple(fees(8), value("select presupuesto from infoteams where idequipo = ?", kClub), count("selects")),
-              std::tuple(m_clause, budget, 0));
-
-    const qint64 wages = value("select sum(Ficha) from jugadores where idequipo = ?", kClub);
-    EXPECT_EQ(game::Ledger(*m_store).row(8)->salarios, game::roundHalfEven(wages - m_wage, 30));
-    goToWeek(9);
-    EXPECT_EQ(game::Ledger(*m_store).row(9)->salarios, game::roundHalfEven(wages, 30));
-}
 
 struct Answer {
     friend void PrintTo(const Answer &c, std::ostream *out) { *out << c.name; }
