@@ -1,10 +1,8 @@
 // What every screen shares: the page's frame (its title, heading and way back, Escape too),
-// the look the style sheet gives by role, the pictures kept once drawn, and the grids.
+// and the look the style sheet gives by role.
 
-#include "common/artwork.h"
 #include "common/theme.h"
 #include "screenfixture.h"
-#include "stadium/stadiumpicture.h"
 
 namespace {
 
@@ -111,19 +109,4 @@ TEST_F(Frames, theSheetGivesEachRoleItsColour)
     theme::restyle(name, "users", true);
     EXPECT_EQ(name->grab().toImage().pixelColor(2, 2), QColor(192, 192, 0));
     EXPECT_EQ(textColour(name), QColor(0x10, 0x20, 0x3f));
-}
-
-// Guards: a picture drawn again at every opening, or one kept for another club or size.
-TEST_F(Frames, picturesAreDrawnOnceForEachSize)
-{
-    const QSize small(22, 22), large(150, 150);
-    EXPECT_EQ(artwork::crest(3, small).cacheKey(), artwork::crest(3, small).cacheKey());
-    EXPECT_NE(artwork::crest(3, small).cacheKey(), artwork::crest(4, small).cacheKey());
-    EXPECT_EQ(artwork::crest(3, large).size(), large);
-    EXPECT_NE(artwork::crest(3, large).toImage(), artwork::crest(4, large).toImage());
-    EXPECT_EQ(artwork::flag(5, QSize(96, 64)).cacheKey(), artwork::flag(5, QSize(96, 64)).cacheKey());
-    EXPECT_EQ(ui::stadiumPicture(7, QSize(360, 236)).cacheKey(), ui::stadiumPicture(7, QSize(360, 236)).cacheKey());
-    EXPECT_NE(ui::stadiumPicture(7, QSize(360, 236)).toImage(), ui::stadiumPicture(8, QSize(360, 236)).toImage());
-    EXPECT_EQ(artwork::title(QSize(640, 360)).size(), QSize(640, 360));
-    EXPECT_EQ(artwork::title(QSize(640, 360)).cacheKey(), artwork::title(QSize(640, 360)).cacheKey());
 }

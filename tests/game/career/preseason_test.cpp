@@ -1,7 +1,6 @@
 #include "careerfixture.h"
 
-#include <algorithm>
-#include <vector>
+#include <memory>
 
 using game::Preseason;
 using State = Preseason::Slot::State;
@@ -16,14 +15,6 @@ protected:
         m_planner = std::make_unique<Preseason>(*m_context);
         m_planner->begin();
         m_rivals = m_planner->clubsOf(3);
-    }
-
-    std::vector<int> calendar()
-    {
-        std::vector<int> ids;
-        for (auto rows = m_store->query("select idpartido from calendario order by semana"); rows.next();)
-            ids.push_back(rows.integer(0));
-        return ids;
     }
 
     std::unique_ptr<Preseason> m_planner;
@@ -61,32 +52,4 @@ TEST_F(PreseasonPlanner, dealsTheFiveSlotsInOrderAndPlaysOnlyThePresentationAtHo
     EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("Selecciona 5 Partidos de Pretemporada, Jugados o No Jugados")});
     EXPECT_EQ(m_dialogs.messages().front().icon, game::Dialogs::Icon::Information);
     EXPECT_EQ(count("calendario") + count("jugadores where venta = 1"), 0);
-}
-
-// Guards: a market that lists the youths, the released players or the user's own squad, or
-// that draws other than seventy-six times.
-TEST_F(PreseasonPlanner, drawsTheMarketSeventySixTimesAmongOtherClubsOnly)
-{
-    const int youth = int(value("select min(idjugador) from jugadores where idequipo = 84"));
-    const int released = int(value("select min(idjugador) from jugadores where idequipo = 85"));
-    const int own = int(value("select min(idjugador) from jugadores where idequipo = ?", kClub));
-    const int rival = int(value("select min(idjugador) from jugadores where idequipo = 9"));
-    const int abroad = int(value("select max(idjugador) from jugadores where idequipo = 40"));
-    const int players = int(count("jugadores"));
-    exec("update jugadores set venta = 1 where idjugador = 500"); // listed last season: stays
-    for (int id : {youth, released, own, rival, abroad})
-        m_random.scriptDraw(id, players);
-    for (int draw = 5; draw < 75; ++draw)
-        m_random.scriptDraw(rival, players); // the same player drawn again and again
-    m_random.scriptDraw(abroad, players);
-    m_random.scriptDraw(own, players); // the 77th draw must never be made
-    for (int slot = 0; slot < 5; ++slot)
-        m_planner->decline();
-    ASSERT_TRUE(m_planner->proceed());
-    std::vector<int> listed{rival, abroad, 500};
-    std::sort(listed.begin(), listed.end());
-    EXPECT_EQ(text("select group_concat(idjugador) from (select idjugador from jugadores where venta = 1 order by idjugador)"),
-              QStringLiteral("%1,%2,%3").arg(listed[0]).arg(listed[1]).arg(listed[2]));
-    EXPECT_EQ(m_random.uniform(), (own - 0.5) / players); // the scripted 77th value is still there
-    EXPECT_EQ(calendar().size(), 30u);
 }

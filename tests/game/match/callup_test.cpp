@@ -58,35 +58,6 @@ TEST_F(CallUpTest, placesEachPlayerInOnePlaceAndNobodyWithoutAPlaceOrOfAnotherCl
                                      m_ids[2]));
 }
 
-// Guards: a match played with fewer than fourteen, or an automatic call-up that leaves a
-// court place to the wrong position, the bench to the weaker men, or rewrites itself.
-TEST_F(CallUpTest, theBestFourteenAreTheBestOfEachPositionThenTheBestLeftAndOnlyFourteenPlay)
-{
-    CallUp callUp(*m_context);
-    for (int place = 0; place < 13; ++place)
-        callUp.place(place, m_ids[std::size_t(place)]);
-    EXPECT_FALSE(callUp.readyToPlay());
-    EXPECT_EQ(m_dialogs.texts(), QStringList{QStringLiteral("Debes Seleccionar 14 Jugadores para la Covocatoria")});
-
-    callUp.chooseBest();
-    EXPECT_TRUE(callUp.readyToPlay());
-    EXPECT_EQ(m_dialogs.texts().size(), 1);
-    const std::vector<CallUp::Place> places = callUp.places();
-    for (std::size_t place = 0; place < 7; ++place) {
-        const QString position = QString::fromUtf16(game::kPositions[place]);
-        EXPECT_EQ(places[place].posicion, position) << place;
-        EXPECT_EQ(places[place].media, value("select max(Media) from jugadores where idequipo = ? and Posicion = ?",
-                                             kBarcelona, position));
-    }
-    EXPECT_GE(value("select min(Media) from miequipo where Pos_Partido like 'SUPLENTE%'"),
-              value("select max(Media) from jugadores where idequipo = ?"
-                    " and idjugador not in (select idjugador from miequipo)",
-                    kBarcelona));
-    const QString chosen = dump("miequipo");
-    callUp.chooseBest();
-    EXPECT_EQ(dump("miequipo"), chosen);
-}
-
 // Guards: a system stored under the wrong code or refused at either end of the list, a
 // diagram given outside the list, or a price overwritten by the tactics.
 TEST_F(CallUpTest, tacticsStoreTheCodeOfEachSystemAndTouchNoPrice)

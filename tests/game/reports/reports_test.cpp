@@ -51,32 +51,3 @@ TEST_F(StoreTest, theTableOrdersOnPointsThenGoalsAgainstAndWritesOneAtTheTop)
     EXPECT_TRUE(m_dialogs.messages().empty());
     EXPECT_EQ(value("select Puesto_Actual from asobal where teams = 11"), 1);
 }
-
-// Guards: the round of the week counted with the friendlies, a round outside 1 to 30, a 0-0
-// shown as a score, or the user's match not marked.
-TEST_F(CareerTest, aRoundShowsItsEightMatchesFromTheTemplateAndMarksTheUsers)
-{
-    startCareer();
-    planSeason(2);
-    RoundResults results(*m_context);
-    exec("update datos_jugador set jornada = 1");
-    EXPECT_EQ(results.currentRound(), 1); // a friendly week shows round 1
-    exec("update datos_jugador set jornada = 9");
-    EXPECT_EQ(results.currentRound(), 7);
-    EXPECT_EQ(RoundResults::next(30) * 100 + RoundResults::previous(1) * 10 + RoundResults::next(7), 3018);
-
-    exec("update liga_asobal set goles_equipo_local = 28, goles_equipo_visitante = 0 where idpartido ="
-         " (select min(idpartido) from liga_asobal where jornada = 3)");
-    const auto round = results.round(3);
-    ASSERT_EQ(round.size(), 8u);
-    EXPECT_EQ(round[0].homeGoals + '-' + round[0].awayGoals, QStringLiteral("28-0"));
-    EXPECT_TRUE(round[1].homeGoals.isEmpty() && round[1].awayGoals.isEmpty()); // not played: no score
-    const QString own = text("select NombreEquipo from equipos where idequipo = ?", kClub);
-    int users = 0;
-    for (const auto &match : round) {
-        users += match.users ? 1 : 0;
-        EXPECT_FALSE(match.home.isEmpty() || match.away.isEmpty());
-        EXPECT_EQ(match.users, match.home == own || match.away == own);
-    }
-    EXPECT_EQ(users, 1);
-}

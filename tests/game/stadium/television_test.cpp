@@ -83,26 +83,6 @@ TEST_F(TelevisionTest, buysAMatchAgainstAClubOutsideTheLeague)
     EXPECT_TRUE(Television(*m_context).buys(kAbroad, kClub));
 }
 
-// Guards: the week's message skipped when nothing is bought or there is no match, or coming
-// after the decision; the fee booked by the decision alone.
-TEST_F(TelevisionTest, runTellsTheLoadingMessageEveryWeekAndBooksNothing)
-{
-    const QString loading = QStringLiteral("Cargando... Pulse Aceptar para continuar");
-    const QString ledger = dump("caja");
-    Television tv(*m_context);
-
-    EXPECT_FALSE(tv.run(match(kClub, kRival)).has_value());
-    EXPECT_FALSE(tv.run(std::nullopt).has_value());
-    setClub(kRival, 2, 4);
-    m_random.scriptDraw(3, Television::kChannels);
-    const std::optional<QString> channel = tv.run(match(kRival, kClub));
-    ASSERT_TRUE(channel.has_value());
-    EXPECT_EQ(*channel, QStringLiteral("Solana Televisión"));
-
-    EXPECT_EQ(m_dialogs.texts(), QStringList(3, loading));
-    EXPECT_EQ(dump("caja"), ledger);
-}
-
 // Guards: a channel out of the seven, or one of them never drawn.
 TEST_F(TelevisionTest, eachOfTheSevenDrawsNamesItsOwnChannel)
 {

@@ -84,45 +84,6 @@ TEST(WorksCatalogue, eachOrderTextCarriesItsOwnKeyCostAndWeeks)
         EXPECT_EQ(Works::orderOf(none), nullptr) << Works::caption(none).toStdString();
 }
 
-// Guards: orders written out of the catalogue's order, a seats order holding the increment
-// instead of the finished capacity, money taken when the order is placed, or a box without
-// an order writing a row.
-TEST_F(WorksTest, anOrderWritesOneRowPerTickedWorkWithTheCapacityFixedNow)
-{
-    setStadium({{"min_gradas", 15000}, {"parking", 0}, {"focos", 0}, {"tienda", 0}});
-    exec("update infoteams set presupuesto = -5 where idequipo = ?", kClub);
-    const QString ledgerBefore = dump("caja");
-
-    const int placed = Works(*m_context).order(
-        {Choice::Shop, Choice::NoParking, Choice::Lights170kW, Choice::Seats1000, Choice::Parking});
-
-    EXPECT_EQ(placed, 4);
-    EXPECT_EQ(dump("selects"),
-              QStringLiteral(
-                  "update estadios set min_gradas=16000 where idequipo=4|1|0|0|0|0|gradas 1000 1000000 12|"
-                  "update infoteams set presupuesto=presupuesto - 1000000 where idequipo=4|\n"
-                  "update estadios set parking=1 where idequipo=4|1|0|0|0|0|parking 0 3500000 30|"
-                  "update infoteams set presupuesto=presupuesto - 3500000 where idequipo=4|\n"
-                  "update estadios set focos=1 where idequipo=4|1|0|0|0|0|focos 1 120000 6|"
-                  "update infoteams set presupuesto=presupuesto - 120000 where idequipo=4|\n"
-                  "update estadios set tienda=1 where idequipo=4|1|0|0|0|0|tienda 0 90000 7|"
-                  "update infoteams set presupuesto=presupuesto - 90000 where idequipo=4|\n"));
-    ASSERT_EQ(m_dialogs.messages().size(), 1u);
-    EXPECT_EQ(m_dialogs.messages()[0].text, QStringLiteral("Las Obras Empezarán en la Jornada Actual"));
-    EXPECT_EQ(m_dialogs.messages()[0].title, QStringLiteral("Remodelación"));
-    // Nothing is paid, and a negative budget stops nothing.
-    EXPECT_EQ(budget(), -5);
-    EXPECT_EQ(dump("caja"), ledgerBefore);
-    EXPECT_EQ(stadium("min_gradas"), 15000);
-
-    // Boxes without an order, or none at all: no row and not a word.
-    m_dialogs.clear();
-    EXPECT_EQ(Works(*m_context).order({Choice::NoParking, Choice::NoShop}), 0);
-    EXPECT_EQ(Works(*m_context).order({}), 0);
-    EXPECT_EQ(count("selects"), 4);
-    EXPECT_TRUE(m_dialogs.messages().empty());
-}
-
 // Guards: a seats order that adds its seats to whatever the capacity is when it ends, rather
 // than setting the number fixed at the order; or two seat orders of the same moment adding
 // up.

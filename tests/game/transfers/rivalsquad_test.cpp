@@ -61,32 +61,6 @@ protected:
     int m_players = 0;
 };
 
-// Guards: a routine that acts in a week without a match; a wrong plaza order or position, a
-// second-best starting, the user's starters of an earlier week left on the sheet, or a move
-// or a draw where the rival already has his seven.
-TEST_F(RivalSquadTest, aRivalWithOneBestPerPositionFieldsHisSevenAndMovesNobody)
-{
-    exec("insert into jugar values (4, 53, 'A', 'B', 70, 'Portero', 1)");
-    const QString players = dump("jugadores");
-    const QString earlier = dump("jugar");
-    m_random.script({kSentinel});
-
-    RivalSquad(*m_context).prepare(std::nullopt);
-    EXPECT_EQ(dump("jugar"), earlier);
-    prepare(kRival);
-
-    EXPECT_EQ(dump("jugar"), QStringLiteral("2|19|Jan|Sjöberg|91|Portero|1|\n"
-                                            "2|22|Jon|Cano Cruz|82|Extremo Izquierdo|2|\n"
-                                            "2|24|Andrés|Cano Puig|87|Extremo Derecho|3|\n"
-                                            "2|26|Andrés|Méndez Moya|82|Lateral Izquierdo|4|\n"
-                                            "2|29|Kim|Berg|81|Lateral Derecho|5|\n"
-                                            "2|31|Atli|Ragnarsson|85|Pivote|6|\n"
-                                            "2|34|Javier|Gómez Mas|81|Central|7|\n"));
-    EXPECT_EQ(dump("jugadores"), players);
-    EXPECT_EQ(m_random.uniform(), kSentinel);
-    EXPECT_TRUE(m_dialogs.texts().isEmpty());
-}
-
 struct NewcomerCase {
     friend void PrintTo(const NewcomerCase &c, std::ostream *out) { *out << c.label; }
     const char *label;
