@@ -33,28 +33,4 @@ protected:
         }
         ASSERT_TRUE(planner.proceed());
     }
-
-    // The league fixtures of the club's template position, in round order.
-    std::vector<int> leagueFixturesOf(int club)
-    {
-        const int position = static_cast<int>(
-            m_store->integer("select puesto_anterior from asobal where teams = ?", club));
-        game::GameStore::Query query = m_store->query(
-            "select idpartido from liga_asobal where ?1 in (pos_equipo_local, pos_equipo_visitante)"
-            " order by jornada",
-            position);
-        std::vector<int> ids;
-        while (query.next())
-            ids.push_back(query.integer(0));
-        return ids;
-    }
-
-    std::vector<int> calendarFixtures()
-    {
-        game::GameStore::Query query = m_store->query("select idpartido from calendario order by semana");
-        std::vector<int> ids;
-        while (query.next())
-            ids.push_back(query.integer(0));
-        return ids;
-    }
 };

@@ -347,15 +347,6 @@ protected:
         return texts;
     }
 
-    // The texts of all the labels of a widget, on show or not.
-    static QStringList captions(QWidget *widget)
-    {
-        QStringList texts;
-        for (QLabel *label : widget->findChildren<QLabel *>())
-            texts << label->text();
-        return texts;
-    }
-
     // The text of a box or a label of the game, or a note that it is missing.
     QString text(const QString &name)
     {
@@ -363,16 +354,6 @@ protected:
             return box->text();
         auto *label = find<QLabel>(name);
         return label ? label->text() : QStringLiteral("<no %1>").arg(name);
-    }
-
-    // Whether a label on show on the current screen reads so.
-    bool shows(const QString &text)
-    {
-        for (QLabel *label : m_navigator->current()->findChildren<QLabel *>()) {
-            if (label->text() == text && label->isVisible())
-                return true;
-        }
-        return false;
     }
 
     // What the player sees of a screen is whole: the window keeps its size, every label is

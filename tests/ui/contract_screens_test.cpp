@@ -73,11 +73,6 @@ protected:
                                 " Media || '/' || NombreEquipo from jugadores join lesiones on idlesion = Lesiones"
                                 " join equipos using (idequipo) where idjugador = ?",
                                 player));
-        for (const char *caption : {"EDAD:", "NACIONALIDAD:", "POSICIÓN:", "LESIONADO:", "MEDIA:", "EQUIPO:",
-                                    "CLAUSULA DE RESCISIÓN", "FICHA ANUAL", "AÑOS"})
-            EXPECT_TRUE(shows(caption)) << caption;
-        EXPECT_EQ(find<QCheckBox>("Check1")->text(), "Libertad por Descenso");
-        EXPECT_EQ(find<QCheckBox>("Check2")->text(), "Casa y Coche");
     }
 
     // Holds a step button down for so many ticks of its timer, then lets go.
@@ -119,9 +114,6 @@ TEST_F(ContractScreens, squadListsTheClubByGroupAndOpensThePickedPlayersContract
     reachFirstLeagueWeek();
     const int user = club();
     openSquad();
-    for (const char *caption : {"Porteros", "Extremos", "Laterales", "Centrales"})
-        EXPECT_TRUE(shows(caption)) << caption;
-    EXPECT_EQ(find<QPushButton>("cmdJuveniles")->text(), "JUVENILES");
 
     for (const auto &[name, positions] : kSquadGrids) {
         auto *grid = find<QTableView>(name);
@@ -164,9 +156,6 @@ TEST_F(ContractScreens, squadListsTheClubByGroupAndOpensThePickedPlayersContract
                             player));
     EXPECT_EQ(m_navigator->current()->findChild<QLineEdit *>("txtOferta"), nullptr);
     EXPECT_EQ(m_navigator->current()->findChild<QLabel *>("lblNotas"), nullptr);
-    for (const auto &[name, caption] : {std::pair{"cmdfichar", "RENOVAR"}, {"cmdDespedir", "DESPEDIR"},
-                                        {"cmdTransferir", "TRASPASAR"}})
-        EXPECT_EQ(find<QPushButton>(name)->text(), caption) << name;
     screenshot("contract_renovar");
 
     // "CANCELAR" with the boxes changed and a box ticked: nothing is written.
@@ -302,7 +291,6 @@ TEST_F(ContractScreens, youthSearchLeadsToAnOfferFromTheTermsTheYouthAsks)
     EXPECT_EQ(youths->model()->rowCount(), 0);
     EXPECT_EQ(shownHeaders(youths),
               QStringList({"Nombre", "Apellidos", "Edad", "Posición", "Media", "Dorsal", "Nacionalidad"}));
-    EXPECT_EQ(find<QPushButton>("Command1")->text(), "BUSCAR PROMESA");
 
     // Every position and back to the first: the pool's youths of that position.
     for (int row : {1, 2, 3, 4, 5, 6, 0}) {
@@ -331,8 +319,6 @@ TEST_F(ContractScreens, youthSearchLeadsToAnOfferFromTheTermsTheYouthAsks)
     EXPECT_EQ(QStringList({text("txtOferta"), text("txtclausula"), text("txtficha"), text("txtaños")}).join('/'),
               QStringLiteral("%1€/%1€/%2€/5").arg(clause).arg(wage));
     expectCard(youth);
-    EXPECT_TRUE(shows("OFERTA AL EQUIPO"));
-    EXPECT_EQ(find<QPushButton>("cmdfichar")->text(), "HACER OFERTA");
     expectTidy("offer");
     screenshot("offer_listed");
 

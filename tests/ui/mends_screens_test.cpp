@@ -113,8 +113,6 @@ TEST_F(MendsScreens, theVerdictShowsTheChampionByItsCrestTheBottomTwoAndTheUsers
         EXPECT_EQ(shown("compra1"), shown("dos")) << c.what;
         EXPECT_EQ(shown("Compra2"), shown("uno")) << c.what;
         EXPECT_EQ(shown("pos"), QLatin1String(c.place)) << c.what;
-        for (const char *caption : {"CAMPEÓN DE LA LIGA ASOBAL", "Desciende:", "Compra Plaza:", "Posición Alcanzada:"})
-            EXPECT_TRUE(captions(&verdict).contains(QString::fromUtf8(caption))) << caption;
         expectTidy(QString::fromUtf8(c.what), &verdict);
         if (c.champion == user)
             screenshot(QStringLiteral("verdict"), &verdict);

@@ -96,8 +96,6 @@ TEST_F(SeasonScreens, theTableOrdersByPointsThenFewestAgainstAndWritesThePlaces)
 
     click("cmdClasificacion");
     ASSERT_EQ(at(), "Clasificacion");
-    for (const char *header : {"POS", "EQUIPO", "PJ", "PG", "PE", "PP", "G F", "G C", "Ptos"})
-        EXPECT_TRUE(captions(m_navigator->current()).contains(header)) << header;
     for (int place = 0; place < 16; ++place) {
         const int team = order[std::size_t(place)];
         EXPECT_EQ(entry("lblPos", place)->text(), QString::number(place + 1)) << place;
@@ -157,8 +155,6 @@ TEST_F(SeasonScreens, theRoundsOpenOnTheCurrentOneStepWithinTheSeasonAndHighligh
         EXPECT_EQ(entry("lblRL", row)->text() + '-' + entry("lblRV", row)->text(),
                   row == users ? "25-22" : row == other ? "0-28" : "-")
             << row;
-    for (const char *caption : {"LIGA - ASOBAL", "PARTIDOS DE LA JORNADA"})
-        EXPECT_TRUE(captions(m_navigator->current()).contains(caption)) << caption;
     expectTidy("rounds");
     screenshot("rounds");
 
