@@ -87,6 +87,13 @@ protected:
         settle();
     }
 
+    // Presses a button and arrives at the screen of that name.
+    void go(const QString &button, const QString &screen)
+    {
+        click(button);
+        ASSERT_EQ(at(), screen) << button.toStdString();
+    }
+
     // Saves what the player sees: the window and, over it, the dialog that is open.
     void screenshot(const QString &name, QWidget *dialog = nullptr)
     {

@@ -32,8 +32,7 @@ protected:
     void openSquad()
     {
         ASSERT_EQ(at(), kPanel);
-        click("cmdPlantilla");
-        ASSERT_EQ(at(), kSquad);
+        go("cmdPlantilla", kSquad);
     }
 
     // The squad's goalkeeper of the lowest number, and his contract opened from the grid.
@@ -162,14 +161,12 @@ TEST_F(ContractScreens, squadListsTheClubByGroupAndOpensThePickedPlayersContract
     fill("txtficha", "999999");
     click("Check2");
     m_dialogs.clear();
-    click("cmdCancelar");
-    EXPECT_EQ(at(), kSquad);
+    go("cmdCancelar", kSquad);
     EXPECT_EQ(m_navigator->screen(kContract), nullptr);
     EXPECT_EQ(dump("jugadores"), before);
     EXPECT_TRUE(m_dialogs.texts().isEmpty());
 
-    click("cmdVOLVER");
-    EXPECT_EQ(at(), kPanel);
+    go("cmdVOLVER", kPanel);
     EXPECT_EQ(m_navigator->screen(kSquad), nullptr);
 }
 
@@ -281,8 +278,7 @@ TEST_F(ContractScreens, youthSearchLeadsToAnOfferFromTheTermsTheYouthAsks)
 {
     reachFirstLeagueWeek();
     openSquad();
-    click("cmdJuveniles");
-    ASSERT_EQ(at(), "Juveniles");
+    go("cmdJuveniles", "Juveniles");
     auto *positions = find<QListWidget>("list1");
     auto *youths = find<QTableView>("DGJugadores");
     ASSERT_TRUE(positions && youths);
@@ -337,8 +333,7 @@ TEST_F(ContractScreens, youthSearchLeadsToAnOfferFromTheTermsTheYouthAsks)
     EXPECT_EQ(m_navigator->screen(kOffer), nullptr);
     EXPECT_EQ(at(), "Juveniles");
     EXPECT_EQ(m_store->integer("select idequipo from jugadores where idjugador = ?", youth), 84);
-    click("cmdVOLVER");
-    EXPECT_EQ(at(), kSquad);
+    go("cmdVOLVER", kSquad);
 }
 
 // Guards: a step on the press itself, a timer left running after the release, a step of the

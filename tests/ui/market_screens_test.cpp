@@ -41,8 +41,7 @@ protected:
     void openSaleLists()
     {
         ASSERT_EQ(at(), kPanel);
-        click("cmdfichar");
-        ASSERT_EQ(at(), kSale);
+        go("cmdfichar", kSale);
     }
 
     void list(const std::string &where) { exec("update jugadores set venta = 1 where " + where); }
@@ -127,8 +126,7 @@ TEST_F(MarketScreens, saleListsShowEachGroupOfListedPlayersAndOfferForThePickedO
 
     // A player signed meanwhile has left the market: the lists are read at every opening.
     const int goalkeeper = gridIds(find<QTableView>("DGPorteros")).front();
-    click("cmdVOLVER");
-    ASSERT_EQ(at(), kPanel);
+    go("cmdVOLVER", kPanel);
     EXPECT_EQ(m_navigator->screen(kSale), nullptr);
     exec("update jugadores set venta = 0 where idjugador = ?", goalkeeper);
     openSaleLists();
@@ -149,8 +147,7 @@ TEST_F(MarketScreens, clubsWalkFromACountryToItsClubsAndOnToASquad)
     openSaleLists();
 
     // The clubs take the place of the sale lists.
-    click("cmdOfertas");
-    ASSERT_EQ(at(), kClubs);
+    go("cmdOfertas", kClubs);
     EXPECT_EQ(m_navigator->screen(kSale), nullptr);
     auto *clubs = find<QListWidget>("DataList1");
     auto *squad = find<QTableView>("DataGrid1");
@@ -208,8 +205,7 @@ TEST_F(MarketScreens, clubsWalkFromACountryToItsClubsAndOnToASquad)
     EXPECT_EQ(cell(squad, 3, 5), m_store->text("select Nacionalidad from jugadores where idjugador = ?",
                                                cell(squad, 3, 0).toInt()));
     pickAndOffer(squad, 3, false, kClubs);
-    click("cmdVOLVER");
-    EXPECT_EQ(at(), kPanel);
+    go("cmdVOLVER", kPanel);
     EXPECT_EQ(m_navigator->screen(kClubs), nullptr);
 }
 
@@ -220,8 +216,7 @@ TEST_F(MarketScreens, scoutSearchesWithTheGamesPrecedenceAndOffersForThePickedPl
 {
     reachFirstLeagueWeek();
     openSaleLists();
-    click("cmdSecretario");
-    ASSERT_EQ(at(), kScout);
+    go("cmdSecretario", kScout);
     EXPECT_NE(m_navigator->screen(kSale), nullptr);
     auto *grid = find<QTableView>("DGJugadores");
     auto *positions = find<QListWidget>("List1");
@@ -286,7 +281,6 @@ TEST_F(MarketScreens, scoutSearchesWithTheGamesPrecedenceAndOffersForThePickedPl
     EXPECT_EQ(cell(grid, 1, 6), m_store->text("select Dorsal from jugadores where idjugador = ?", cell(grid, 1, 0).toInt()));
     pickAndOffer(grid, 1, false, kScout);
     // Leaving the secretary shows the sale lists again.
-    click("cmdVOLVER");
-    EXPECT_EQ(at(), kSale);
+    go("cmdVOLVER", kSale);
     EXPECT_EQ(m_navigator->screen(kScout), nullptr);
 }

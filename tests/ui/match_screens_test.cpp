@@ -39,8 +39,7 @@ TEST_F(MatchScreens, aMatchIsCalledUpPlayedChangedAndLeftForTheNextWeek)
     const int matchId = m_navigator->career().week().fixture()->idpartido;
     const QString empty = QStringLiteral("PORTERO: PORTERO  - ");
 
-    click("cmdSeguir");
-    ASSERT_EQ(at(), "Alinear");
+    go("cmdSeguir", "Alinear");
     EXPECT_EQ(placeText(0), empty);
     // Without a player picked nobody is placed.
     find<QListWidget>("list1")->setCurrentRow(0);
@@ -71,8 +70,7 @@ TEST_F(MatchScreens, aMatchIsCalledUpPlayedChangedAndLeftForTheNextWeek)
     screenshot("call_up");
 
     click("cmdVOLVER");
-    click("Command3");
-    ASSERT_EQ(at(), "Tactica");
+    go("Command3", "Tactica");
     auto *defence = find<QComboBox>("Combo1");
     defence->setCurrentIndex(3);
     emit defence->activated(3);
@@ -172,8 +170,7 @@ TEST_F(MatchScreens, aResultThatCannotBeWrittenKeepsTheWeekAndTheReplayPaysItsGa
     EXPECT_EQ(value("select sum(Puntos) from asobal"), 0);
 
     mend();
-    click("cmdSeguir");
-    ASSERT_EQ(at(), "Alinear");
+    go("cmdSeguir", "Alinear");
     ASSERT_TRUE(playMatch());
     EXPECT_EQ(dump("caja"), ledger);
     // Closed by its frame at full time, the match is recorded as by "SALIR".

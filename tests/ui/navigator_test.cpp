@@ -164,8 +164,7 @@ TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowEndTheWorksPayThePricesSetAndK
         EXPECT_EQ(m_dialogs.texts().contains("Las Obras de La mejora de las LAVABOS Han Terminado"), opened == 4) << opened;
         EXPECT_EQ(value("select lavabos from estadios where idequipo = ?", club()), opened >= 4 ? 3 : 2) << opened;
         if (opened == 4) {
-            click("cmdCaja");
-            ASSERT_EQ(at(), "Caja");
+            go("cmdCaja", "Caja");
             EXPECT_EQ(entry("lblRemodelar", 0)->text(), "612000 €");
             EXPECT_EQ(entry("lblTelevision", 1)->text(), QStringLiteral("%1 €").arg(qint64(broadcasts) * 450000));
             screenshot("ledger_works_finished");
@@ -237,8 +236,7 @@ TEST_F(NavigatorScreens, theLastRoundLeadsToTheVerdictAndTheNextSeasonOnItsOwnYe
         // for the fixtures.
         const int champion = int(value("select teams from asobal where puesto_anterior = 16"));
         EXPECT_EQ(value("select puesto_actual from asobal where teams = ?", champion), 16);
-        click("cmdClasificacion");
-        ASSERT_EQ(at(), "Clasificacion");
+        go("cmdClasificacion", "Clasificacion");
         EXPECT_EQ(entry("lblPos", 0)->text(), "1");
         EXPECT_EQ(entry("lblEquipo", 0)->text(), m_store->text("select NombreEquipo from equipos where idequipo = 1"));
         EXPECT_EQ(value("select puesto_actual from asobal where teams = 1"), 1);

@@ -113,12 +113,10 @@ TEST_F(SavedScreens, continuarTakesUpTheLastCareerAtTheSameWeek)
     const QString ledger = dump("caja");
     const qint64 budget = m_store->integer("select presupuesto from infoteams where idequipo = 1");
     m_dialogs.answer({true});
-    click("Command4");
-    ASSERT_EQ(at(), "Form1");
+    go("Command4", "Form1");
 
     m_dialogs.clear();
-    click("cmdContinuar");
-    ASSERT_EQ(at(), "Panel_Control_Manager");
+    go("cmdContinuar", "Panel_Control_Manager");
     EXPECT_EQ(find<QLabel>("lblJornada")->text(), "1");
     EXPECT_EQ(dump("caja"), ledger);
     EXPECT_EQ(m_store->integer("select presupuesto from infoteams where idequipo = 1"), budget);
@@ -142,8 +140,7 @@ TEST_F(SavedScreens, theLoadListShowsEachCareerAndDeletesOnlyWhenAsked)
         m_navigator->setSaves(m_saves.get());
     }
     goToMenu();
-    click("cmdCargar");
-    ASSERT_EQ(at(), "Cargar");
+    go("cmdCargar", "Cargar");
     auto *list = find<QTableView>("DGPartidas");
     ASSERT_NE(list, nullptr);
     ASSERT_EQ(list->model()->rowCount(), 2);
@@ -165,8 +162,7 @@ TEST_F(SavedScreens, theLoadListShowsEachCareerAndDeletesOnlyWhenAsked)
     ASSERT_EQ(list->model()->rowCount(), 1);
     EXPECT_EQ(m_saves->list().size(), 1u);
 
-    click("cmdCargar");
-    ASSERT_EQ(at(), "Pretemporada");
+    go("cmdCargar", "Pretemporada");
     EXPECT_EQ(find<QLabel>("lblEquipo")->text(), "BM VALENCIA");
 }
 
@@ -194,8 +190,7 @@ TEST_F(SavedScreens, theHistoryTellsThreeSeasonsInATableAndTwoCharts)
     // The fourth season's dates fall three years on.
     EXPECT_TRUE(find<QLabel>("lblFecha")->text().endsWith("2007"));
 
-    click("cmdHistorial");
-    ASSERT_EQ(at(), "Historial");
+    go("cmdHistorial", "Historial");
     auto *seasons = find<QTableView>("DGTemporadas");
     ASSERT_NE(seasons, nullptr);
     ASSERT_EQ(seasons->model()->rowCount(), 3);

@@ -101,8 +101,7 @@ TEST_F(Screens, aNewCareerGoesFromTheMenuToThePlanner)
     screenshot("planner_typed_name");
 
     // Back from the planner, the menu is there again.
-    click("cmdVOLVER");
-    EXPECT_EQ(at(), "Form1");
+    go("cmdVOLVER", "Form1");
 }
 
 // Guards: the add-youth form that keeps the last youth's choices or loses a refused one, a

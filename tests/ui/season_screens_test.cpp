@@ -94,8 +94,7 @@ TEST_F(SeasonScreens, theTableOrdersByPointsThenFewestAgainstAndWritesThePlaces)
             order.push_back(team);
     }
 
-    click("cmdClasificacion");
-    ASSERT_EQ(at(), "Clasificacion");
+    go("cmdClasificacion", "Clasificacion");
     for (int place = 0; place < 16; ++place) {
         const int team = order[std::size_t(place)];
         EXPECT_EQ(entry("lblPos", place)->text(), QString::number(place + 1)) << place;
@@ -113,8 +112,7 @@ TEST_F(SeasonScreens, theTableOrdersByPointsThenFewestAgainstAndWritesThePlaces)
     EXPECT_EQ(last.join('/'), "0/0/0/0/0/0/0");
     expectTidy("table");
     screenshot("standings");
-    click("cmdVOLVER");
-    ASSERT_EQ(at(), "Panel_Control_Manager");
+    go("cmdVOLVER", "Panel_Control_Manager");
 
     // The next opening reads the table anew and writes the new places.
     exec("update asobal set Puntos = 20 where teams = 16");
@@ -132,8 +130,7 @@ TEST_F(SeasonScreens, theTableOrdersByPointsThenFewestAgainstAndWritesThePlaces)
 TEST_F(SeasonScreens, theRoundsOpenOnTheCurrentOneStepWithinTheSeasonAndHighlightTheUsersMatch)
 {
     reachFirstLeagueWeek();
-    click("cmdResultados");
-    ASSERT_EQ(at(), "Resultados");
+    go("cmdResultados", "Resultados");
     expectRoundShown(1);
     click("cmdVOLVER");
 
@@ -148,8 +145,7 @@ TEST_F(SeasonScreens, theRoundsOpenOnTheCurrentOneStepWithinTheSeasonAndHighligh
     exec("update liga_asobal set goles_equipo_local = 0, goles_equipo_visitante = 28 where idpartido ="
          " (select idpartido from liga_asobal where jornada = 7 order by idpartido limit 1 offset ?)",
          other);
-    click("cmdResultados");
-    ASSERT_EQ(at(), "Resultados");
+    go("cmdResultados", "Resultados");
     expectRoundShown(7, true);
     for (int row = 0; row < 8; ++row)
         EXPECT_EQ(entry("lblRL", row)->text() + '-' + entry("lblRV", row)->text(),

@@ -69,8 +69,7 @@ protected:
             else
                 click("cmdNoJugar");
         }
-        click("cmdSeguir");
-        ASSERT_EQ(at(), kPanel);
+        go("cmdSeguir", kPanel);
         if (runEvents)
             runWeekEvents();
     }
@@ -79,8 +78,7 @@ protected:
     void openStadium(const char *frame = nullptr)
     {
         ASSERT_EQ(at(), kPanel);
-        click("cmdEstadio");
-        ASSERT_EQ(at(), kStadium);
+        go("cmdEstadio", kStadium);
         if (frame)
             click(frame);
     }
@@ -186,8 +184,7 @@ TEST_F(StadiumScreens, eachFrameShowsAloneFromItsButtonAndFitsTheWindow)
         EXPECT_TRUE(part(always)->isVisible()) << always;
     click("cmdObras");
     expectOnlyShown(kTop, "Obras", "OBRAS");
-    click("cmdVOLVER");
-    EXPECT_EQ(at(), kPanel);
+    go("cmdVOLVER", kPanel);
     EXPECT_EQ(m_navigator->screen(kStadium), nullptr);
 }
 

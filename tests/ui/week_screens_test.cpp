@@ -36,8 +36,7 @@ TEST_F(WeekScreens, aPlannedSeasonOpensWeekOneWithItsFixtureLedgerAndCalendar)
     EXPECT_EQ(slotText("lblEquipoLocal", 4), "BM Valencia");
     screenshot("planner");
 
-    click("cmdSeguir");
-    ASSERT_EQ(at(), "Panel_Control_Manager");
+    go("cmdSeguir", "Panel_Control_Manager");
     // The week's events wait for the panel's timer; the ledger is read before they run, however
     // long this test takes.
     m_navigator->current()->findChild<QTimer *>("Timer1")->stop();
@@ -54,8 +53,7 @@ TEST_F(WeekScreens, aPlannedSeasonOpensWeekOneWithItsFixtureLedgerAndCalendar)
     expectTidy("panel");
     screenshot("panel");
 
-    click("cmdCaja");
-    ASSERT_EQ(at(), "Caja");
+    go("cmdCaja", "Caja");
     EXPECT_EQ(text("txtSemana"), "Act");
     for (const char *previous : {"lblIngresosAnterior", "lblGastosAnterior", "lblCajaAnterior"})
         EXPECT_EQ(text(previous), "0 €") << previous;
@@ -71,8 +69,7 @@ TEST_F(WeekScreens, aPlannedSeasonOpensWeekOneWithItsFixtureLedgerAndCalendar)
     EXPECT_FALSE(find("FSemana")->isVisible());
     click("cmdVOLVER");
 
-    click("c");
-    ASSERT_EQ(at(), "Calendario");
+    go("c", "Calendario");
     EXPECT_EQ(entry("lblTipo2", 0)->text(), "Preparación");
     EXPECT_EQ(entry("lblTipo2", 3)->text(), "Presentación");
     EXPECT_EQ(entry("lblFecha", 0)->text(), "01/08/2004");
@@ -92,6 +89,5 @@ TEST_F(WeekScreens, aPlannedSeasonOpensWeekOneWithItsFixtureLedgerAndCalendar)
     EXPECT_EQ(entry("lblEquiposHoy", 7), nullptr); // seven weeks, no more
     expectTidy("calendar");
     screenshot("calendar");
-    click("cmdVOLVER");
-    EXPECT_EQ(at(), "Panel_Control_Manager");
+    go("cmdVOLVER", "Panel_Control_Manager");
 }
