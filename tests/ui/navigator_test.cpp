@@ -25,33 +25,6 @@ protected:
     }
 };
 
-// Guards: a way back to the panel (showing it again, or leaving a report, the ledger, the
-// tactics or the call-up) that opens the week again and charges the wages a second time.
-TEST_F(NavigatorScreens, comingBackToThePanelNeverOpensTheWeekAgain)
-{
-    reachFirstLeagueWeek();
-    const std::string clock = "select jornada || '/' || (select count(*) from caja) || '/' || presupuesto"
-                              " from datos_jugador, infoteams where infoteams.idequipo = datos_jugador.idequipo";
-    const QString before = m_store->text(clock);
-    const QString ledger = dump("caja");
-    ASSERT_TRUE(before.startsWith("1/1/"));
-    m_navigator->showPanel();
-    m_navigator->showPanel();
-    settle();
-    for (const char *button : {"c", "cmdCaja", "Command3", "cmdAlineacion"}) {
-        click(button);
-        ASSERT_NE(at(), kPanel) << button;
-        click("cmdVOLVER");
-        ASSERT_EQ(at(), kPanel) << button;
-        m_navigator->showPanel();
-        settle();
-        EXPECT_EQ(m_store->text(clock), before) << button;
-    }
-    EXPECT_EQ(dump("caja"), ledger);
-    EXPECT_EQ(m_navigator->career().week().number(), 1);
-    EXPECT_EQ(text("lblJornada"), "1");
-}
-
 // Guards: a window title showing a column name or an empty argument instead of the manager,
 // his club and the week's real fixture, or still titled after a page that has closed ("LA
 // CAJA" over the panel).
