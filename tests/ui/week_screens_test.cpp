@@ -64,9 +64,6 @@ TEST_F(WeekScreens, aPlannedSeasonOpensWeekOneWithItsFixtureLedgerAndCalendar)
     click("cmdmenos");
     EXPECT_EQ(text("txtSemana"), "Act");
     screenshot("ledger");
-    click("Command1");
-    EXPECT_TRUE(find("FTemp")->isVisible());
-    EXPECT_FALSE(find("FSemana")->isVisible());
     click("cmdVOLVER");
 
     go("c", "Calendario");
