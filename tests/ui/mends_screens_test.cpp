@@ -1,5 +1,5 @@
 // Screens as the player meets them at their edges: the ledger's chart, the planner at its
-// limits, a pasted sum, and the verdict.
+// limits, and the verdict.
 
 #include "career/seasonclose.h"
 #include "common/artwork.h"
@@ -9,7 +9,6 @@
 #include <QBarSeries>
 #include <QBarSet>
 #include <QChartView>
-#include <QClipboard>
 #include <QLineSeries>
 
 #include <functional>
@@ -180,23 +179,4 @@ TEST_F(MendsScreens, thePlannerTakesFiveSlotsNoMoreAndKeepsALongNameOffTheClub)
         click(QStringLiteral("cmdBorrar"));
     EXPECT_EQ(count("pretemporada"), 0);
     EXPECT_TRUE(decline->isEnabled());
-}
-
-// Guards: a pasted text without a digit leaving a box with no sum at all.
-TEST_F(MendsScreens, aPasteWithoutDigitsLeavesOneEuroAsAnEmptiedBoxDoes)
-{
-    reachFirstLeagueWeek();
-    const int player = int(m_store->integer("select min(idjugador) from jugadores where idequipo = 21"));
-    m_navigator->open(QStringLiteral("Fichar_Jugadores"),
-                      QVariantMap{{QStringLiteral("player"), player}, {QStringLiteral("listed"), false}});
-    settle();
-    const std::pair<const char *, const char *> pastes[] = {{"abc", "1 €"}, {"€", "1 €"}, {" - ", "1 €"}, {"4x5", "45"}};
-    for (const auto &[pasted, shown] : pastes) {
-        auto *box = find<QLineEdit>(QStringLiteral("txtficha"));
-        box->setFocus();
-        box->selectAll();
-        QApplication::clipboard()->setText(QString::fromUtf8(pasted));
-        box->paste();
-        EXPECT_EQ(box->text(), QString::fromUtf8(shown)) << pasted;
-    }
 }

@@ -410,17 +410,3 @@ TEST_F(StadiumScreens, aBoughtMatchOpensTeleWhichOnlyItsOkClosesAndPaysOnce)
     EXPECT_EQ(televisionIncome(), 450000);
     EXPECT_EQ(at(), kPanel);
 }
-
-// Guards: a bought match whose offer is lost because the week's events ran before the panel's
-// timer (the match opened at once), so the fee could never be booked.
-TEST_F(StadiumScreens, theOfferStillComesWhenTheWeeksEventsRanBeforeThePanelsTurn)
-{
-    reachFriendlyWeek(false, false);
-    m_navigator->career().week().runEvents();
-    ASSERT_TRUE(m_navigator->career().week().broadcast().has_value());
-    runWeekEvents();
-    ASSERT_NE(m_navigator->screen("Tele"), nullptr);
-    click("cmdOK");
-    EXPECT_EQ(televisionIncome(), 450000);
-    EXPECT_EQ(m_dialogs.texts().count(kLoading), 1);
-}

@@ -45,7 +45,6 @@ protected:
         return value("select " + column + " from estadios where idequipo = ?", kClub);
     }
 
-    qint64 budget() { return value("select presupuesto from infoteams where idequipo = ?", kClub); }
     Ledger::Row row(int week) { return Ledger(*m_store).row(week).value_or(Ledger::Row{}); }
 
     // A transfer offer as the market writes it: a single blank in the text and the payment.
