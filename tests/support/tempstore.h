@@ -52,6 +52,8 @@ protected:
 
     // Every `what` (insert, update or delete) on the table fails from now on, as on a full
     // disk, until mend().
+    QString clubName(int club) { return text("select NombreEquipo from equipos where idequipo = ?", club); }
+
     void breakWrites(const std::string &table, const std::string &what = "insert");
     void mend() { exec("drop trigger broken"); }
 

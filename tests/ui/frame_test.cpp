@@ -1,8 +1,9 @@
 // What every screen shares: the page's frame (its title, heading and way back, Escape too),
-// and the look the style sheet gives by role.
+// and Qt's own buttons in the game's language.
 
-#include "common/theme.h"
 #include "screenfixture.h"
+
+#include <QMessageBox>
 
 namespace {
 
@@ -32,12 +33,6 @@ const Frame kFrames[] = {
     {"Secretario", "SECRETARIO TÉCNICO", "SECRETARIO TÉCNICO", "cmdVOLVER", "<- VOLVER"},
     {"Fichar_Jugadores", "Fichar Jugador", "FICHAR JUGADOR", "cmdCancelar", "CANCELAR"},
 };
-
-QColor textColour(QWidget *widget)
-{
-    widget->ensurePolished();
-    return widget->palette().color(QPalette::WindowText);
-}
 
 } // namespace
 
@@ -86,15 +81,13 @@ TEST_F(Frames, everyPageHasItsTitleHeadingAndWayBackAndEscapeLeavesIt)
     EXPECT_EQ(at(), "Form1");
 }
 
-// Guards: a sheet handed to Qt with a colour left unnamed (Qt drops the whole declaration), or
-// a role that does not reach the label. (A property changed on show is painted at once: the
-// rounds' highlight follows the user's match.)
-TEST_F(Frames, theSheetGivesEachRoleItsColour)
+// Guards: Qt's own dialog buttons left in English in a game written in Spanish.
+TEST_F(Frames, qtsOwnButtonsSpeakSpanish)
 {
-    const QString sheet = theme::styleSheet();
-    EXPECT_FALSE(sheet.isEmpty() || sheet.contains('@'));
-    EXPECT_EQ(qApp->styleSheet(), sheet);
-
-    QWidget screen;
-    EXPECT_EQ(textColour(theme::label("heading", "Texto", &screen)), theme::kAmber);
+    QMessageBox box(QMessageBox::Question, "Zarpazo", "¿?",
+                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Ok | QMessageBox::Cancel);
+    const std::pair<QMessageBox::StandardButton, const char *> buttons[] = {
+        {QMessageBox::Yes, "Sí"}, {QMessageBox::No, "No"}, {QMessageBox::Ok, "Aceptar"}, {QMessageBox::Cancel, "Cancelar"}};
+    for (const auto &[button, text] : buttons)
+        EXPECT_EQ(box.button(button)->text().remove('&'), text);
 }

@@ -16,8 +16,6 @@
 class MendsScreens : public ScreenTest
 {
 protected:
-    QString clubName(int id) { return m_store->text("select NombreEquipo from equipos where idequipo = ?", id); }
-
     // Every label of the screen on show, by name and index, with its text.
     std::vector<std::pair<QString, QString>> labels()
     {

@@ -58,12 +58,7 @@ TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowEndTheWorksPayThePricesSetAndK
             << m_window->windowTitle().toStdString();
         EXPECT_EQ(count("caja"), week);
         EXPECT_EQ(m_window->size(), kWindow) << week;
-        EXPECT_TRUE(QRect(QPoint(0, 0), kWindow).contains(panel()->geometry())) << week;
-        for (QLabel *label : panel()->findChildren<QLabel *>()) {
-            if (label->isVisible()) {
-                EXPECT_TRUE(panel()->rect().contains(label->geometry())) << week << label->objectName().toStdString();
-            }
-        }
+        expectTidy(QStringLiteral("week %1").arg(week));
         if (week == 1 || week == 5 || week == 10)
             screenshot(QStringLiteral("week_%1_panel").arg(week));
 

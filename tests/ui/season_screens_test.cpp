@@ -19,8 +19,6 @@ QColor backgroundOf(QLabel *label)
 class SeasonScreens : public ScreenTest
 {
 protected:
-    QString clubName(int club) { return m_store->text("select NombreEquipo from equipos where idequipo = ?", club); }
-
     // The matches of a round as the template places the clubs: home and away names, in order.
     std::vector<std::pair<QString, QString>> fixturesOf(int round)
     {

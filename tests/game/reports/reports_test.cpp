@@ -7,24 +7,6 @@ using game::Calendar;
 using game::RoundResults;
 using game::Standings;
 
-// Guards: friendlies labelled as league rounds, the presentation not told apart, the week
-// shown where the round belongs, or a week past the season showing a match.
-TEST_F(CareerTest, theCalendarShowsFriendliesThenTheLeagueByRoundAndNothingPastTheSeason)
-{
-    startCareer();
-    planSeason(5);
-    const std::vector<Calendar::Row> rows = Calendar(*m_store).rows(1, kClub);
-    ASSERT_EQ(rows.size(), 7u);
-    EXPECT_EQ(rows[0].type + rows[3].subtype, QStringLiteral("PretemporadaPreparación"));
-    EXPECT_EQ(rows[4].subtype + rows[4].date, QStringLiteral("Presentación28/08/2004"));
-    EXPECT_TRUE(rows[4].fixture.startsWith(QStringLiteral("Portland San Antonio - ")));
-    EXPECT_EQ(rows[5].type + rows[5].subtype, QStringLiteral("Liga ASOBALJornada 1"));
-    const std::vector<Calendar::Row> last = Calendar(*m_store).rows(33, kClub);
-    EXPECT_EQ(last[2].subtype, QStringLiteral("Jornada 30"));
-    EXPECT_FALSE(last[2].empty);
-    EXPECT_TRUE(last[3].empty && last[3].fixture.isEmpty() && last[6].empty);
-}
-
 // Guards: a table ordered on goal difference or goals scored, a tie that wavers, the places
 // written the season's close way round (16 at the top) when the player looks at it, or a
 // place the store refuses stopping the table.

@@ -89,23 +89,6 @@ TEST_F(LedgerTest, eachWeekOpensFromTheBudgetNotFromLastWeeksBalance)
     EXPECT_EQ(ledger.firstBalance(), m_opening.caja + 35500);
 }
 
-// Guards: the browser stepping past week one or past the week being played.
-TEST(LedgerBrowserSteps, staysBetweenWeekOneAndTheCurrentWeek)
-{
-    game::LedgerBrowser browser(3);
-    QStringList shown{browser.weekText()};
-    for (void (game::LedgerBrowser::*step)() : {&game::LedgerBrowser::forward, &game::LedgerBrowser::back,
-                                                 &game::LedgerBrowser::back, &game::LedgerBrowser::back,
-                                                 &game::LedgerBrowser::forward, &game::LedgerBrowser::forward}) {
-        (browser.*step)();
-        shown << browser.weekText();
-    }
-    EXPECT_EQ(shown.join(u' '), QStringLiteral("Act Act 2 1 1 2 Act"));
-    game::LedgerBrowser first(1);
-    first.back();
-    EXPECT_EQ(first.weekText(), QStringLiteral("Act"));
-}
-
 TEST(MoneyRounding, roundsHalfToEvenAndShowsEurosWithoutSeparators)
 {
     const std::tuple<qint64, qint64, qint64> cases[] = {{5, 2, 2}, {7, 2, 4}, {-5, 2, -2}, {-7, 2, -4},

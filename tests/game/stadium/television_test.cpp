@@ -75,14 +75,6 @@ INSTANTIATE_TEST_SUITE_P(Rule, TelevisionBuys,
                                            BuyCase{"sameClassEqualPlaces", 1, 3, 3, true}),
                          [](const auto &info) { return std::string(info.param.label); });
 
-// Guards: a club with no place in the table (a friendly abroad) turned away.
-TEST_F(TelevisionTest, buysAMatchAgainstAClubOutsideTheLeague)
-{
-    setClub(kAbroad, 2, 0);
-    ASSERT_EQ(count("asobal where teams = 80"), 0);
-    EXPECT_TRUE(Television(*m_context).buys(kAbroad, kClub));
-}
-
 // Guards: a channel out of the seven, or one of them never drawn.
 TEST_F(TelevisionTest, eachOfTheSevenDrawsNamesItsOwnChannel)
 {

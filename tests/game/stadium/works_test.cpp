@@ -299,12 +299,3 @@ TEST_F(WorksTest, theShopPaysEveryWeekItStandsFromTheWeekItIsBuilt)
     EXPECT_EQ(row(9).remodelaciones, 90000);
     EXPECT_EQ(stadium("tienda"), 1);
 }
-
-TEST(WorksPicture, followsTheCapacityByThousandsFromThreeThousandToFourteenThousand)
-{
-    const std::vector<std::pair<int, int>> cases{{0, 0},       {2999, 0},   {3000, 1},  {3999, 1},
-                                                 {4000, 2},    {8500, 6},   {13999, 11}, {14000, 12},
-                                                 {20000, 12}};
-    for (const auto &[capacity, picture] : cases)
-        EXPECT_EQ(Works::pictureFor(capacity), picture) << capacity;
-}

@@ -41,7 +41,6 @@ protected:
     }
 
     QString player(const std::string &columns) { return text("select " + columns + " from jugadores where idjugador = ?", m_player); }
-    QString clubName(int club) { return text("select NombreEquipo from equipos where idequipo = ?", club); }
     qint64 sold() { return game::Ledger(*m_store).row(3)->ventaJugadores; }
 
     int m_player = 0;

@@ -107,13 +107,3 @@ TEST_F(ContractsTest, aDismissalPaysEveryYearLeftAndTheBoardStopsItBelowTwelve)
                                                        "Equipo Solo Cuenta con 14 Jugadores."));
     EXPECT_EQ(std::pair(squad(), game::Ledger(*m_store).row(2)->despidos), std::pair(11LL, 100000LL));
 }
-
-// Guards: the market button that lists but never delists.
-TEST_F(ContractsTest, theMarketButtonListsAndDelistsInTurn)
-{
-    for (const bool listed : {true, false}) {
-        EXPECT_EQ(Contracts(*m_context).toggleListing(m_player), listed);
-        EXPECT_EQ(value("select venta from jugadores where idjugador = ?", m_player), listed ? 1 : 0);
-    }
-    EXPECT_TRUE(m_dialogs.texts().isEmpty());
-}

@@ -67,18 +67,6 @@ TEST_F(MarketTest, theFourSaleGridsTakeEveryListedPlayerButThePivots)
     EXPECT_EQ(qint64(squad), value("select count(*) from jugadores where idequipo = ? and Posicion <> 'Pivote'", kClub));
 }
 
-// Guards: the user's club offered to himself in Spain's list, or another country's list that
-// leaves a club out.
-TEST_F(MarketTest, spainsClubsLeaveOutTheUsersOwnAndEveryClubIsListedAtFirst)
-{
-    Market market(*m_context);
-    const QString own = text("select NombreEquipo from equipos where idequipo = ?", kClub);
-    EXPECT_FALSE(market.clubsOf(1).contains(own));
-    EXPECT_EQ(market.clubsOf(1).size(), value("select count(*) from equipos where codpais = 1") - 1);
-    EXPECT_EQ(market.clubsOf(2).size(), value("select count(*) from equipos where codpais = 2"));
-    EXPECT_TRUE(market.clubsOf(0).contains(own));
-}
-
 struct SearchCase {
     const char *name;
     Market::Search criteria;
@@ -117,21 +105,6 @@ INSTANTIATE_TEST_SUITE_P(
                    "Nombre like 'Markus%' and Apellidos like 'Mey%' and Posicion like 'Lateral%' and Media = 67 and Edad = 26"},
         SearchCase{"allFiveWithAnotherPosition", {QStringLiteral("Markus"), QStringLiteral("Mey"), QStringLiteral("Portero"), QStringLiteral("67"), QStringLiteral("26")}, "0"}),
     [](const auto &info) { return std::string(info.param.name); });
-
-// Guards: the scout's starting list in the order of the bytes, which puts Álvaro, Óscar and
-// Željko after every plain Z.
-TEST_F(MarketTest, everybodyStandsByFirstNameAsASpanishReaderOrdersThem)
-{
-    const std::vector<Market::Line> all = Market(*m_context).everybody();
-    ASSERT_EQ(qint64(all.size()), count("jugadores"));
-    // The initials, without their accents, never go back in the alphabet.
-    QString initials;
-    for (const Market::Line &line : all)
-        initials += line.nombre.normalized(QString::NormalizationForm_D).at(0).toUpper();
-    QString sorted = initials;
-    std::sort(sorted.begin(), sorted.end());
-    EXPECT_EQ(initials, sorted);
-}
 
 // Guards: a club found by name with like, so that a name like a pattern ("_" for any letter)
 // picks another club: the planner's rival or the players a club shows.

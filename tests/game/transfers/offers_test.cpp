@@ -45,7 +45,6 @@ protected:
 
     int clubOf(int player) { return int(value("select idequipo from jugadores where idjugador = ?", player)); }
     QString nameOf(int player) { return text("select Nombre from jugadores where idjugador = ?", player); }
-    QString clubName(int club) { return text("select NombreEquipo from equipos where idequipo = ?", club); }
     QString signing(int player, int club) { return QStringLiteral("Has Fichado a %1 del %2").arg(nameOf(player), clubName(club)); }
     qint64 fees(int week) { return game::Ledger(*m_store).row(week)->fichajes; }
 
