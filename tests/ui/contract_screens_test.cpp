@@ -58,22 +58,6 @@ protected:
         ASSERT_EQ(openFirstGoalkeeper(), player);
     }
 
-    // The card beside the terms shows the player as the store has him, his club by name,
-    // each fact beside its caption.
-    void expectCard(int player)
-    {
-        EXPECT_EQ(text("lblNombre"),
-                  m_store->text("select Nombre || ' ' || Apellidos from jugadores where idjugador = ?", player));
-        QStringList facts;
-        for (int index = 0; index < 5; ++index)
-            facts << entry("lblEdad", index)->text();
-        EXPECT_EQ((facts << text("lblEquipo")).join('/'),
-                  m_store->text("select Edad || '/' || Nacionalidad || '/' || Posicion || '/' || nombre_lesion || '/' ||"
-                                " Media || '/' || NombreEquipo from jugadores join lesiones on idlesion = Lesiones"
-                                " join equipos using (idequipo) where idjugador = ?",
-                                player));
-    }
-
     // Holds a step button down for so many ticks of its timer, then lets go.
     void hold(const QString &button, int ticks)
     {
@@ -143,7 +127,17 @@ TEST_F(ContractScreens, squadListsTheClubByGroupAndOpensThePickedPlayersContract
     const QString before = dump("jugadores");
     pickRow(centres, row);
     ASSERT_EQ(at(), kContract);
-    expectCard(player);
+    // The card beside the terms: the player as the store has him, his club by name.
+    EXPECT_EQ(text("lblNombre"),
+              m_store->text("select Nombre || ' ' || Apellidos from jugadores where idjugador = ?", player));
+    QStringList facts;
+    for (int index = 0; index < 5; ++index)
+        facts << entry("lblEdad", index)->text();
+    EXPECT_EQ((facts << text("lblEquipo")).join('/'),
+              m_store->text("select Edad || '/' || Nacionalidad || '/' || Posicion || '/' || nombre_lesion || '/' ||"
+                            " Media || '/' || NombreEquipo from jugadores join lesiones on idlesion = Lesiones"
+                            " join equipos using (idequipo) where idjugador = ?",
+                            player));
     EXPECT_EQ(QStringList({text("txtclausula"), text("txtficha"), text("txtaños"), text("lbltr")}).join('/'),
               m_store->text("select Clausula_Recision || '€/' || Ficha || '€/5/' from jugadores where idjugador = ?",
                             player));

@@ -50,7 +50,7 @@ protected:
     // The first week with one friendly planned (the rest declined): the presentation at home
     // against the first Spanish club, or the first away at the first German club, a club
     // outside the league whose match television buys.
-    void reachFriendlyWeek(bool home, bool runEvents = true)
+    void reachFriendlyWeek(bool home)
     {
         startCareerFromMenu("IValencia");
         for (int slot = 0; slot < 5; ++slot) {
@@ -60,8 +60,7 @@ protected:
                 click("cmdNoJugar");
         }
         go("cmdSeguir", kPanel);
-        if (runEvents)
-            runWeekEvents();
+        runWeekEvents();
     }
 
     QWidget *stadium() { return m_navigator->screen(kStadium); }
