@@ -272,14 +272,6 @@ protected:
         return true;
     }
 
-    // Full time left by "SALIR", then the next week's events, a broadcast taken.
-    void leaveMatch()
-    {
-        click("cmdSalir");
-        runWeekEvents();
-        takeBroadcast();
-    }
-
     // From an open week to the panel of the last round: the week is moved to the season's
     // 29th and its match played without the screen, as a finished match comes back.
     void reachLastRound()
@@ -307,7 +299,9 @@ protected:
         if (callUp)
             callUpFirstFourteen();
         ASSERT_TRUE(playMatch()) << m_dialogs.texts().join('|').toStdString();
-        leaveMatch();
+        click("cmdSalir"); // full time left, then the next week's events and its broadcast
+        runWeekEvents();
+        takeBroadcast();
     }
 
     // On the planner: a country's flag, then a club of its list by row.

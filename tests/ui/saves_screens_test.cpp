@@ -111,7 +111,6 @@ TEST_F(SavedScreens, continuarTakesUpTheLastCareerAtTheSameWeek)
 
     reachFirstWeek();
     const QString ledger = dump("caja");
-    const qint64 budget = m_store->integer("select presupuesto from infoteams where idequipo = 1");
     m_dialogs.answer({true});
     go("Command4", "Form1");
 
@@ -119,10 +118,9 @@ TEST_F(SavedScreens, continuarTakesUpTheLastCareerAtTheSameWeek)
     go("cmdContinuar", "Panel_Control_Manager");
     EXPECT_EQ(find<QLabel>("lblJornada")->text(), "1");
     EXPECT_EQ(dump("caja"), ledger);
-    EXPECT_EQ(m_store->integer("select presupuesto from infoteams where idequipo = 1"), budget);
     runWeekEvents();
     EXPECT_TRUE(m_dialogs.texts().isEmpty()); // the week's events ran before it was saved
-    EXPECT_EQ(m_navigator->window().windowTitle().contains("Chema Ruiz"), true);
+    EXPECT_TRUE(m_navigator->window().windowTitle().contains("Chema Ruiz"));
 }
 
 // Guards: a load list that shows what the saves do not say, deletes without asking or deletes
