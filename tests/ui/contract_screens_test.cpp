@@ -254,8 +254,7 @@ TEST_F(ContractScreens, traspasarTogglesTheListingAndDespedirAsksThenPaysTheCont
 
 // Guards: the positions missing or out of order, a grid that starts full, a search of the
 // wrong position or outside the pool, and a youth offered for as a free player or with other
-// starting sums than the ones he asks; an offer that writes more or less than one order, or
-// "CANCELAR" that writes one.
+// starting sums than the ones he asks; an offer that writes more or less than one order.
 TEST_F(ContractScreens, youthSearchLeadsToAnOfferFromTheTermsTheYouthAsks)
 {
     reachFirstLeagueWeek();

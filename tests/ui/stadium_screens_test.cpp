@@ -99,7 +99,7 @@ protected:
 };
 
 // Guards: a frame that stays on show beside another, a button that opens the wrong frame, a
-// caption or box missing or misspelt, or a frame that outgrows the window or is cut off.
+// box missing or misspelt, or a frame that outgrows the window or is cut off.
 TEST_F(StadiumScreens, eachFrameShowsAloneFromItsButtonAndFitsTheWindow)
 {
     reachFirstLeagueWeek();
@@ -178,7 +178,7 @@ TEST_F(StadiumScreens, eachFrameShowsAloneFromItsButtonAndFitsTheWindow)
 }
 
 // Guards: a box offered that skips a level or rebuilds what stands, a missing tick on the
-// state a stadium starts from, the seat limits off by one, or the wrong picture; prices that
+// state a stadium starts from, or the wrong picture; prices that
 // can be reached in a week played away, or the match-day frame shown in place of another;
 // a Tele window in a week whose match television did not buy, or no loading message.
 TEST_F(StadiumScreens, theBoxesOfferOnlyWhatTheStadiumCanTakeNextAndAnAwayWeekHasNoMatchDay)
@@ -321,7 +321,7 @@ TEST_F(StadiumScreens, ticksClearTheirChoiceAndOrderedWorksShowUnderWayAtTheNext
 
 // Guards: a price button tied to the wrong price, a press not written at once, or the frame
 // showing another match.
-TEST_F(StadiumScreens, matchDayPricesStepWithinTheirBoundsAndAreWrittenAtEachPress)
+TEST_F(StadiumScreens, matchDayPricesStepAndAreWrittenAtEachPress)
 {
     reachFriendlyWeek(true);
     const game::Week &week = m_navigator->career().week();
