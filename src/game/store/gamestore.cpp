@@ -38,7 +38,7 @@ struct GameStore::Connection
     Connection(const std::string &path, bool readOnly)
         : db(path, (readOnly ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE) | SQLite::OPEN_NOMUTEX)
     {
-        for (const char *text : {"BEGIN IMMEDIATE", "COMMIT", "SAVEPOINT attempt", "RELEASE attempt"})
+        for (const char *text : kControlTexts)
             controls.emplace_back(db, text);
     }
 
@@ -56,6 +56,8 @@ struct GameStore::Connection
     // thousands of times a season: compiled once with the connection, like every other
     // statement, instead of parsed again at each use.
     enum Control { Begin, Commit, Savepoint, Release };
+    static constexpr const char *kControlTexts[] = {"BEGIN IMMEDIATE", "COMMIT", "SAVEPOINT attempt",
+                                                    "RELEASE attempt"}; // in the order of Control
     std::vector<SQLite::Statement> controls;
 
     void control(Control which)
@@ -444,7 +446,7 @@ bool GameStore::attempt(const std::function<void()> &step)
                 throw;
             m_connection->resetIdle();
             m_connection->db.exec("ROLLBACK TO attempt");
-            m_connection->db.exec("RELEASE attempt");
+            m_connection->control(Connection::Release);
         }
         return false;
     }
