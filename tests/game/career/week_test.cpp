@@ -3,6 +3,8 @@
 #include "careerfixture.h"
 #include "stadium/ledger.h"
 
+#include <tuple>
+
 using game::Week;
 using Step = game::WeekEvents::Step;
 
@@ -163,9 +165,8 @@ TEST_F(WeekTest, theBroadcastFeeIsBookedOnceAndOnlyByThePlayersOk)
     EXPECT_TRUE(week.acceptBroadcast());
     EXPECT_FALSE(week.broadcast().has_value());
     EXPECT_FALSE(week.acceptBroadcast());
-    EXPECT_EQ(row(1).television, 450000);
-    EXPECT_EQ(row(1).ingresos, opened.ingresos + 450000);
-    EXPECT_EQ(row(1).caja, opened.caja + 450000);
+    EXPECT_EQ(std::tuple(row(1).television, row(1).ingresos, row(1).caja),
+              std::tuple(450000, opened.ingresos + 450000, opened.caja + 450000));
 
     exec("update equipos set categoria = 1");
     ASSERT_TRUE(week.open());

@@ -4,6 +4,7 @@
 #include "tempstore.h"
 
 #include <functional>
+#include <tuple>
 
 using game::Prices;
 
@@ -73,35 +74,27 @@ TEST_F(PricesTest, aPressTheStoreRefusesIsToldAndKeepsTheOldPrice)
 }
 
 // Guards: prices offered in an away week, in a week without a match, or a home match missed
-// when only the club's name tells it.
+// when only the club's name tells it, or only its id (club 1, stored under another name).
 TEST(PricesHomeWeek, isAWeekWhoseMatchTheUsersClubPlaysAtHome)
 {
-    game::CareerRow career;
-    career.club = 4;
-    career.clubName = QStringLiteral("PORTLAND SAN ANTONIO");
-    game::Fixture home;
-    home.homeId = 4;
-    home.homeName = QStringLiteral("Portland San Antonio");
-    home.awayId = 5;
-    game::Fixture away;
-    away.homeId = 5;
-    away.homeName = QStringLiteral("BM Valladolid");
-    away.awayId = 4;
-
-    EXPECT_TRUE(Prices::homeWeek(home, career));
-    EXPECT_FALSE(Prices::homeWeek(away, career));
-    EXPECT_FALSE(Prices::homeWeek(std::nullopt, career));
-
-    game::CareerRow byName = career;
-    byName.club = 0;
-    EXPECT_TRUE(Prices::homeWeek(home, byName));
-    EXPECT_FALSE(Prices::homeWeek(away, byName));
-
-    // Club 1 whose stored name is not the fixture's: its id alone makes it home.
-    game::CareerRow first;
-    first.club = 1;
-    first.clubName = QStringLiteral("OTRO NOMBRE");
-    game::Fixture atHome = home;
-    atHome.homeId = 1;
-    EXPECT_TRUE(Prices::homeWeek(atHome, first));
+    const auto career = [](int club, const char *name) {
+        game::CareerRow row;
+        row.club = club, row.clubName = QString::fromUtf8(name);
+        return row;
+    };
+    const auto fixture = [](int home, const char *name) {
+        game::Fixture match;
+        match.homeId = home, match.homeName = QString::fromUtf8(name);
+        return std::optional(match);
+    };
+    const std::tuple<game::CareerRow, std::optional<game::Fixture>, bool> cases[] = {
+        {career(4, "PORTLAND SAN ANTONIO"), fixture(4, "Portland San Antonio"), true},
+        {career(4, "PORTLAND SAN ANTONIO"), fixture(5, "BM Valladolid"), false},
+        {career(4, "PORTLAND SAN ANTONIO"), std::nullopt, false},
+        {career(0, "PORTLAND SAN ANTONIO"), fixture(4, "Portland San Antonio"), true},
+        {career(0, "PORTLAND SAN ANTONIO"), fixture(5, "BM Valladolid"), false},
+        {career(1, "OTRO NOMBRE"), fixture(1, "Portland San Antonio"), true},
+    };
+    for (const auto &[row, match, home] : cases)
+        EXPECT_EQ(Prices::homeWeek(match, row), home) << row.club << ' ' << (match ? match->homeId : -1);
 }
