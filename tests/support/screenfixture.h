@@ -132,7 +132,7 @@ protected:
     int club() { return int(m_store->integer("select idequipo from datos_jugador")); }
 
     // The ids a statement gives and the ids a grid shows (its first column), both sorted, to
-    // compare a list on screen with the store; the headers of the columns the grid shows.
+    // compare a list on screen with the store.
     std::vector<int> storeIds(const std::string &sql)
     {
         std::vector<int> ids;
@@ -150,16 +150,6 @@ protected:
             ids.push_back(grid->model()->index(row, 0).data().toInt());
         std::sort(ids.begin(), ids.end());
         return ids;
-    }
-
-    static QStringList shownHeaders(QTableView *grid)
-    {
-        QStringList headers;
-        for (int column = 0; column < grid->model()->columnCount(); ++column) {
-            if (!grid->isColumnHidden(column))
-                headers << grid->model()->headerData(column, Qt::Horizontal).toString();
-        }
-        return headers;
     }
 
     // The row of the grid that shows this player, or -1.
@@ -291,19 +281,6 @@ protected:
         takeBroadcast();
     }
 
-    // The week's match from the panel: the call-up (the first fourteen, when asked), the match
-    // and the way out to the next week.
-    void playTheWeek(bool callUp)
-    {
-        click("cmdSeguir");
-        if (callUp)
-            callUpFirstFourteen();
-        ASSERT_TRUE(playMatch()) << m_dialogs.texts().join('|').toStdString();
-        click("cmdSalir"); // full time left, then the next week's events and its broadcast
-        runWeekEvents();
-        takeBroadcast();
-    }
-
     // On the planner: a country's flag, then a club of its list by row.
     void chooseClub(const char *country, int row)
     {
@@ -359,8 +336,8 @@ protected:
 
     // What the player sees of a screen is whole: the window keeps its size, every label is
     // plain text, every grid shows its columns whole without scrolling sideways, and every
-    // label, button, box, bar and list on show lies inside the window with its whole text, none
-    // of them over another.
+    // label, button, box, bar, list and chart on show lies inside the window with its whole
+    // text, none of them over another.
     void expectTidy(const QString &step, QWidget *screen = nullptr)
     {
         screen = screen ? screen : m_navigator->current();
@@ -381,7 +358,7 @@ protected:
         }
         auto insideAView = [screen](QWidget *widget) {
             for (QWidget *above = widget->parentWidget(); above && above != screen; above = above->parentWidget()) {
-                if (qobject_cast<QAbstractItemView *>(above))
+                if (qobject_cast<QAbstractScrollArea *>(above))
                     return true;
             }
             return false;
@@ -390,7 +367,7 @@ protected:
         for (QWidget *widget : screen->findChildren<QWidget *>()) {
             if (widget->isVisible() && !insideAView(widget)
                 && (qobject_cast<QLabel *>(widget) || qobject_cast<QAbstractButton *>(widget)
-                    || qobject_cast<QLineEdit *>(widget) || qobject_cast<QAbstractItemView *>(widget)
+                    || qobject_cast<QLineEdit *>(widget) || qobject_cast<QAbstractScrollArea *>(widget)
                     || qobject_cast<QComboBox *>(widget) || qobject_cast<QScrollBar *>(widget)))
                 shown << widget;
         }

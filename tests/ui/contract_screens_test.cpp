@@ -88,10 +88,10 @@ protected:
     }
 };
 
-// Guards: a grid bound to the wrong group or to another club, a pivot listed, raw column
-// names or a visible id over the grids, years that are not the contract's, a pick that opens
-// the wrong player, a contract screen that starts from other terms, and "CANCELAR" that
-// writes anything or leaves the screen behind.
+// Guards: a grid bound to the wrong group or to another club, a pivot listed, a visible id
+// over the grids, years that are not the contract's, a pick that opens the wrong player, a
+// contract screen that starts from other terms, and "CANCELAR" that writes anything or leaves
+// the screen behind.
 TEST_F(ContractScreens, squadListsTheClubByGroupAndOpensThePickedPlayersContract)
 {
     reachFirstLeagueWeek();
@@ -107,8 +107,6 @@ TEST_F(ContractScreens, squadListsTheClubByGroupAndOpensThePickedPlayersContract
                                 + " and Posicion in (" + positions + ")"))
             << name;
         EXPECT_TRUE(grid->isColumnHidden(0)) << name;
-        EXPECT_EQ(shownHeaders(grid), QStringList({"Nombre", "Apellidos", "Edad", "Posición", "Media", "Años de\ncontrato"}))
-            << name;
         QStringList cells;
         for (int column = 1; column <= 6; ++column)
             cells << cell(grid, 0, column);

@@ -82,8 +82,8 @@ protected:
 };
 
 // Guards: a sale grid bound to the wrong positions, a listed pivot shown in a grid, the
-// user's own listed players left out, raw column names over the grids, and a picked row that
-// offers for the wrong player or as unlisted.
+// user's own listed players left out, a cell from another column, and a picked row that offers
+// for the wrong player or as unlisted.
 TEST_F(MarketScreens, saleListsShowEachGroupOfListedPlayersAndOfferForThePickedOne)
 {
     reachFirstLeagueWeek();

@@ -176,33 +176,3 @@ TEST_F(MatchScreens, aResultThatCannotBeWrittenKeepsTheWeekAndTheReplayPaysItsGa
     EXPECT_EQ(played(), 16);
     EXPECT_TRUE(dump("caja").startsWith(ledger)) << dump("caja").toStdString(); // week 1 as first paid
 }
-
-// Guards: the crowd box of a friendly away at a club abroad, which has no stadium on file,
-// showing its percentages under blank lines.
-TEST_F(MatchScreens, anAwayFriendlyAbroadShowsTheWholeCrowdBox)
-{
-    startCareerFromMenu("IValencia");
-    chooseClub("cmdAlemania", 0);
-    for (int slot = 1; slot < 5; ++slot)
-        click("cmdNoJugar");
-    click("cmdSeguir");
-    ASSERT_EQ(text("Tipo"), "AMISTOSO");
-    ASSERT_EQ(value("select count(*) from estadios where idequipo = ?", m_navigator->career().week().fixture()->homeId), 0);
-    runWeekEvents();
-    takeTheWeeksNews();
-    const QString ledger = dump("caja");
-
-    click("cmdSeguir");
-    callUpFirstFourteen();
-    click("cmdJugar");
-    ASSERT_NE(match(), nullptr);
-    // A club outside the league makes a full house of a stadium it does not have.
-    QStringList box;
-    for (const char *name : {"lblEstadio", "lblAforoEstadio", "lblEntrada", "lblPorcentaje1", "lblRecaudacion1",
-                             "lblVallas", "lblPorcentaje2"})
-        box << text(name);
-    EXPECT_EQ(box, QStringList({"Pabellón del equipo local", "AFORO: —", "ENTRADA: —", "100%", "RECAUDACIÓN: 0 €",
-                                "VALLAS CONTRATADAS:", "100%"}));
-    EXPECT_EQ(dump("caja"), ledger); // away: nothing is paid to the user
-    screenshot("match_away_abroad", match());
-}

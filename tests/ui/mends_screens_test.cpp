@@ -1,16 +1,9 @@
-// Screens as the player meets them at their edges: the ledger's chart, the planner at its
-// limits, and the verdict.
+// Screens as the player meets them at their edges: the planner at its limits and the verdict.
 
 #include "career/seasonclose.h"
 #include "common/artwork.h"
 #include "reports/verdictscreen.h"
 #include "screenfixture.h"
-
-#include <QBarSeries>
-#include <QBarSet>
-#include <QChartView>
-#include <QLineSeries>
-
 
 class MendsScreens : public ScreenTest
 {
@@ -24,54 +17,6 @@ protected:
         return texts;
     }
 };
-
-// Guards: a chart that misses a week, or draws its bars or its line from another column.
-TEST_F(MendsScreens, theLedgerChartsEachWeekOfTheSeasonFromItsRow)
-{
-    reachFirstLeagueWeek();
-    playTheWeek(true);
-    playTheWeek(false);
-    click(QStringLiteral("cmdCaja"));
-    auto *view = find<QChartView>(QStringLiteral("chartCaja"));
-    ASSERT_NE(view, nullptr);
-    QBarSeries *bars = nullptr;
-    QLineSeries *balance = nullptr;
-    for (QAbstractSeries *series : view->chart()->series()) {
-        bars = bars ? bars : qobject_cast<QBarSeries *>(series);
-        balance = balance ? balance : qobject_cast<QLineSeries *>(series);
-    }
-    ASSERT_TRUE(bars && balance && bars->count() == 2);
-    const qint64 weeks = count("caja");
-    ASSERT_EQ(weeks, 3);
-    ASSERT_EQ(balance->count(), weeks);
-    const auto set = [&](const QString &label) {
-        for (QBarSet *bar : bars->barSets()) {
-            if (bar->label() == label)
-                return bar;
-        }
-        return static_cast<QBarSet *>(nullptr);
-    };
-    ASSERT_TRUE(set(QStringLiteral("Ingresos")) && set(QStringLiteral("Gastos")));
-    for (int week = 1; week <= weeks; ++week) {
-        const int i = week - 1;
-        const std::pair<const char *, double> columns[] = {{"ingresos", set(QStringLiteral("Ingresos"))->at(i)},
-                                                           {"gastos", set(QStringLiteral("Gastos"))->at(i)},
-                                                           {"caja", balance->at(i).y()}};
-        for (const auto &[column, shown] : columns)
-            EXPECT_EQ(shown, double(m_store->integer("select " + std::string(column) + " from caja where semana = ?", week)))
-                << column << " of week " << week;
-    }
-    // The chart lies in the window beside the figures, over none of them.
-    expectTidy(QStringLiteral("ledger"));
-    const auto area = [](QWidget *widget) { return QRect(widget->mapTo(widget->window(), QPoint()), widget->size()); };
-    EXPECT_TRUE(m_window->rect().contains(area(view)));
-    for (QWidget *widget : m_navigator->current()->findChildren<QWidget *>()) {
-        const bool figure = qobject_cast<QLabel *>(widget) || qobject_cast<QAbstractButton *>(widget);
-        EXPECT_FALSE(figure && widget->isVisible() && area(widget).intersects(area(view)))
-            << widget->objectName().toStdString();
-    }
-    screenshot(QStringLiteral("ledger_chart"));
-}
 
 // Guards: a champion shown with another club's crest, the bottom two read from the wrong end
 // of the places or named differently in the two lists, the user's place numbered as the table

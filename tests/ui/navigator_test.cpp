@@ -5,7 +5,13 @@
 #include "match/callup.h"
 #include "screenfixture.h"
 
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChartView>
+#include <QLineSeries>
 #include <QRegularExpression>
+
+#include <tuple>
 
 namespace {
 
@@ -23,13 +29,40 @@ protected:
         EXPECT_TRUE(m_window->frameGeometry().contains(match()->frameGeometry())) << week;
         expectTidy(QStringLiteral("week %1").arg(week), match());
     }
+
+    // The ledger's chart: each week so far, its income and spending as bars and its balance as
+    // a line, each from its own column of the week's row.
+    void expectLedgerCharted(int weeks)
+    {
+        auto *view = find<QChartView>("chartCaja");
+        ASSERT_NE(view, nullptr);
+        QBarSeries *bars = nullptr;
+        QLineSeries *balance = nullptr;
+        for (QAbstractSeries *series : view->chart()->series()) {
+            bars = bars ? bars : qobject_cast<QBarSeries *>(series);
+            balance = balance ? balance : qobject_cast<QLineSeries *>(series);
+        }
+        ASSERT_TRUE(bars && balance && bars->count() == 2 && balance->count() == weeks);
+        QMap<QString, QBarSet *> sets;
+        for (QBarSet *set : bars->barSets())
+            sets[set->label()] = set;
+        ASSERT_TRUE(sets.value("Ingresos") && sets.value("Gastos"));
+        for (int i = 0; i < weeks; ++i) {
+            const auto stored = [&](const char *column) {
+                return double(value("select " + std::string(column) + " from caja where semana = ?", i + 1));
+            };
+            EXPECT_EQ(std::tuple(sets["Ingresos"]->at(i), sets["Gastos"]->at(i), balance->at(i).y()),
+                      std::tuple(stored("ingresos"), stored("gastos"), stored("caja")))
+                << "week " << i + 1;
+        }
+    }
 };
 
 // Guards: ten weeks as a player lives them in the window going wrong: a week that does not
 // move on, a ledger row lost or doubled, the call-up forgotten between weeks, a panel or match
 // that outgrows the 1280×720 window; a work ordered that never ends or ends early, its cost
 // missing from the ledger, a price set on match day that the gate does not use, a broadcast
-// that pays nothing.
+// that pays nothing; a ledger chart that misses a week or draws from another column.
 TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowEndTheWorksPayThePricesSetAndKeepTheirSize)
 {
     reachFirstLeagueWeek(); // Valencia: toilets at the second level, a shop already built
@@ -105,6 +138,8 @@ TEST_F(NavigatorScreens, tenWeeksPlayedInTheWindowEndTheWorksPayThePricesSetAndK
             go("cmdCaja", "Caja");
             EXPECT_EQ(entry("lblRemodelar", 0)->text(), "612000 €");
             EXPECT_EQ(entry("lblTelevision", 1)->text(), QStringLiteral("%1 €").arg(qint64(broadcasts) * 450000));
+            expectLedgerCharted(4);
+            expectTidy("ledger");
             screenshot("ledger_works_finished");
             click("cmdVOLVER");
         }

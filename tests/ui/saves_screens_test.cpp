@@ -209,5 +209,6 @@ TEST_F(SavedScreens, theHistoryTellsThreeSeasonsInATableAndTwoCharts)
         ASSERT_FALSE(view->chart()->series().isEmpty()) << chart;
         EXPECT_EQ(qobject_cast<QXYSeries *>(view->chart()->series().front())->count(), 3) << chart;
     }
+    expectTidy("history");
     screenshot("history");
 }

@@ -347,8 +347,9 @@ TEST_F(StadiumScreens, matchDayPricesStepAndAreWrittenAtEachPress)
 }
 
 // Guards: a bought match with no window, the design's channel instead of a drawn one, a window
-// that Esc or its frame closes and so loses the fee, or a fee booked twice.
-TEST_F(StadiumScreens, aBoughtMatchOpensTeleWhichOnlyItsOkClosesAndPaysOnce)
+// that Esc or its frame closes and so loses the fee, or a fee booked twice; the match's crowd
+// box at a club abroad, which has no stadium on file, showing percentages under blank lines.
+TEST_F(StadiumScreens, aMatchBoughtAbroadOpensTeleWhichOnlyItsOkClosesAndShowsAWholeCrowdBox)
 {
     reachFriendlyWeek(false);
     EXPECT_TRUE(m_dialogs.texts().contains(kLoading));
@@ -387,4 +388,21 @@ TEST_F(StadiumScreens, aBoughtMatchOpensTeleWhichOnlyItsOkClosesAndPaysOnce)
     EXPECT_EQ(m_navigator->screen("Tele"), nullptr);
     EXPECT_EQ(televisionIncome(), 450000);
     EXPECT_EQ(at(), kPanel);
+
+    // The match: a club outside the league makes a full house of a stadium it does not have,
+    // and pays the user nothing.
+    ASSERT_EQ(value("select count(*) from estadios where idequipo = ?", m_navigator->career().week().fixture()->homeId), 0);
+    const QString ledger = dump("caja");
+    click("cmdSeguir");
+    callUpFirstFourteen();
+    click("cmdJugar");
+    ASSERT_NE(match(), nullptr);
+    QStringList box;
+    for (const char *name : {"lblEstadio", "lblAforoEstadio", "lblEntrada", "lblPorcentaje1", "lblRecaudacion1",
+                             "lblVallas", "lblPorcentaje2"})
+        box << text(name);
+    EXPECT_EQ(box, QStringList({"Pabellón del equipo local", "AFORO: —", "ENTRADA: —", "100%", "RECAUDACIÓN: 0 €",
+                                "VALLAS CONTRATADAS:", "100%"}));
+    EXPECT_EQ(dump("caja"), ledger);
+    screenshot("match_away_abroad", match());
 }
