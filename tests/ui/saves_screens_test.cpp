@@ -43,9 +43,16 @@ protected:
 };
 
 // Guards: a way out of a career that throws it away without a word, or asks and still leaves
-// when the player says No, leaves without saving it, or leaves its screens or file behind.
-TEST_F(SavedScreens, everyWayOutOfACareerAsksAndKeepsTheCareer)
+// when the player says No, leaves without saving it, or leaves its screens or file behind;
+// "CONTINUAR" that opens a new week (wages charged twice, a second ledger row), runs the
+// week's events again, or brings back another career than the last one played.
+TEST_F(SavedScreens, everyWayOutOfACareerAsksAndKeepsTheCareerForContinuar)
 {
+    goToMenu();
+    screenshot("menu_continue");
+    click("cmdContinuar"); // nothing saved yet
+    EXPECT_TRUE(m_dialogs.texts().value(0).contains("No hay ninguna carrera guardada"));
+
     const QString question = QStringLiteral("Salir|¿Salir de la partida? La carrera queda guardada y podrás continuarla "
                                             "desde el menú.");
     struct Way
@@ -67,6 +74,7 @@ TEST_F(SavedScreens, everyWayOutOfACareerAsksAndKeepsTheCareer)
     for (const Way &way : ways) {
         reachFirstWeek();
         const qint64 week = m_store->integer("select jornada from datos_jugador");
+        const QString ledger = dump("caja");
         m_dialogs.clear();
         m_dialogs.answer({false});
         way.leave();
@@ -86,6 +94,14 @@ TEST_F(SavedScreens, everyWayOutOfACareerAsksAndKeepsTheCareer)
         if (way.screenAfterYes) {
             EXPECT_EQ(at(), QLatin1String(way.screenAfterYes)) << way.name;
             EXPECT_EQ(find("Panel_Control_Manager"), nullptr) << way.name;
+            // Taken up again from the menu: the same week, its ledger and events as they were.
+            m_dialogs.clear();
+            go("cmdContinuar", "Panel_Control_Manager");
+            EXPECT_EQ(text("lblJornada"), QString::number(week));
+            EXPECT_EQ(dump("caja"), ledger);
+            runWeekEvents();
+            EXPECT_TRUE(m_dialogs.texts().isEmpty());
+            EXPECT_TRUE(m_navigator->window().windowTitle().contains("Chema Ruiz"));
         } else {
             EXPECT_EQ(finished.count(), 1) << way.name;
         }
@@ -97,30 +113,6 @@ TEST_F(SavedScreens, everyWayOutOfACareerAsksAndKeepsTheCareer)
     m_dialogs.clear();
     EXPECT_TRUE(m_navigator->mayLeave());
     EXPECT_TRUE(m_dialogs.questions().isEmpty());
-}
-
-// Guards: "CONTINUAR" that opens a new week (wages charged twice, a second ledger row), runs
-// the week's events again, or brings back another career than the last one played.
-TEST_F(SavedScreens, continuarTakesUpTheLastCareerAtTheSameWeek)
-{
-    goToMenu();
-    screenshot("menu_continue");
-    m_dialogs.clear();
-    click("cmdContinuar"); // nothing saved yet
-    EXPECT_TRUE(m_dialogs.texts().value(0).contains("No hay ninguna carrera guardada"));
-
-    reachFirstWeek();
-    const QString ledger = dump("caja");
-    m_dialogs.answer({true});
-    go("Command4", "Form1");
-
-    m_dialogs.clear();
-    go("cmdContinuar", "Panel_Control_Manager");
-    EXPECT_EQ(find<QLabel>("lblJornada")->text(), "1");
-    EXPECT_EQ(dump("caja"), ledger);
-    runWeekEvents();
-    EXPECT_TRUE(m_dialogs.texts().isEmpty()); // the week's events ran before it was saved
-    EXPECT_TRUE(m_navigator->window().windowTitle().contains("Chema Ruiz"));
 }
 
 // Guards: a load list that shows what the saves do not say, deletes without asking or deletes

@@ -42,9 +42,9 @@ TEST_P(LedgerPosting, movesItsColumnItsTotalAndTheBalanceTogether)
     const std::string column = GetParam().column;
     EXPECT_EQ(value("select " + column + " from caja where semana = 1"),
               column == "Gastos_Fichas" ? m_opening.salarios + 12345 : 12345);
-    EXPECT_EQ(row.caja, m_opening.caja + GetParam().sign * 12345);
-    EXPECT_EQ(row.ingresos, m_opening.ingresos + (GetParam().sign > 0 ? 12345 : 0));
-    EXPECT_EQ(row.gastos, m_opening.gastos + (GetParam().sign < 0 ? 12345 : 0));
+    const qint64 in = GetParam().sign > 0 ? 12345 : 0, out = GetParam().sign < 0 ? 12345 : 0;
+    EXPECT_EQ(std::tuple(row.caja, row.ingresos, row.gastos),
+              std::tuple(m_opening.caja + in - out, m_opening.ingresos + in, m_opening.gastos + out));
     // The budget never sees the postings; the next week opens from it.
     EXPECT_EQ(ledger.budget(kClub), m_opening.caja);
 
@@ -74,17 +74,12 @@ TEST_F(LedgerTest, eachWeekOpensFromTheBudgetNotFromLastWeeksBalance)
     ASSERT_TRUE(m_store->run([&] { ledger.postGateAndBoards(1, 25000, 10500); }).ok());
     ASSERT_TRUE(game::Week(*m_context).open());
     const Ledger::Row second = *ledger.row(2);
-    EXPECT_EQ(second.caja, m_opening.caja - m_opening.gastos);
-    EXPECT_EQ(second.ingresos, 0);
-
+    EXPECT_EQ(std::pair(second.caja, second.ingresos), std::pair(m_opening.caja - m_opening.gastos, qint64(0)));
+    // The season's totals add up every week's row.
     const Ledger::Row season = ledger.seasonTotals();
-    EXPECT_EQ(season.taquilla, 25000);
-    EXPECT_EQ(season.publicidad, 10500);
-    EXPECT_EQ(season.ingresos, 35500);
-    EXPECT_EQ(season.salarios, 2 * m_opening.salarios);
-    EXPECT_EQ(season.empleados, 2000);
-    EXPECT_EQ(season.gastos, 2 * m_opening.gastos);
-    EXPECT_EQ(season.hospitales, 0);
+    EXPECT_EQ(std::tuple(season.taquilla, season.publicidad, season.ingresos, season.salarios, season.empleados,
+                         season.gastos, season.hospitales),
+              std::tuple(25000, 10500, 35500, 2 * m_opening.salarios, 2000, 2 * m_opening.gastos, 0));
     // The season's cash is the earliest week's balance.
     EXPECT_EQ(ledger.firstBalance(), m_opening.caja + 35500);
 }
