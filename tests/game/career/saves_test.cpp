@@ -10,6 +10,8 @@
 
 #include <tuple>
 
+using namespace Qt::StringLiterals;
+
 using game::Career;
 
 namespace {
@@ -63,10 +65,8 @@ TEST_F(SavedCareer, aWeekSavedAndLoadedIsTheSameWeekWithItsWagesChargedOnce)
     const QString saved = tables();
     const std::optional<game::SaveRecord> latest = m_saves->latest();
     ASSERT_TRUE(latest.has_value());
-    EXPECT_EQ(latest->week, 12);
-    EXPECT_EQ(latest->club, 3);
-    EXPECT_EQ(latest->stage, QStringLiteral("semana"));
-    EXPECT_EQ(latest->budget, value("select presupuesto from infoteams where idequipo = 3"));
+    EXPECT_EQ(std::tuple(latest->week, latest->club, latest->stage, latest->budget),
+              std::tuple(12, 3, QStringLiteral("semana"), value("select presupuesto from infoteams where idequipo = 3")));
 
     // The career goes on and is then thrown away; the save brings back week 12.
     ASSERT_TRUE(season.playWeek());
@@ -74,9 +74,8 @@ TEST_F(SavedCareer, aWeekSavedAndLoadedIsTheSameWeekWithItsWagesChargedOnce)
     ASSERT_TRUE(m_saves->load(*m_store, latest->path).ok());
     Career again(*m_context);
     ASSERT_TRUE(again.resume());
-    EXPECT_EQ(again.stage(), Career::Stage::Week);
-    EXPECT_EQ(again.week().number(), 12);
-    EXPECT_TRUE(again.week().eventsRun());
+    EXPECT_EQ(std::tuple(again.stage(), again.week().number(), again.week().eventsRun()),
+              std::tuple(Career::Stage::Week, 12, true));
     EXPECT_EQ(tables(), saved);
     EXPECT_EQ(count("caja where semana = 12"), 1);
 
@@ -106,10 +105,9 @@ TEST_F(SavedCareer, thePlannerAndTheVerdictAreTakenUpWhereTheyStood)
 
     Career planner(*m_context);
     ASSERT_TRUE(planner.resume());
-    EXPECT_EQ(planner.stage(), Career::Stage::Planning);
-    EXPECT_EQ(planner.planner().slotsDealt(), 3);
-    EXPECT_EQ(planner.planner().friendlySlots()[1].state, game::Preseason::Slot::State::Declined);
-    EXPECT_EQ(planner.planner().friendlySlots()[2].away, QStringLiteral("Portland San Antonio"));
+    EXPECT_EQ(std::tuple(planner.stage(), planner.planner().slotsDealt(), planner.planner().friendlySlots()[1].state,
+                         planner.planner().friendlySlots()[2].away),
+              std::tuple(Career::Stage::Planning, 3, game::Preseason::Slot::State::Declined, u"Portland San Antonio"_s));
 
     // The verdict: a season played to its close and saved there, orders still waiting.
     m_random = ScriptedRandom(9);

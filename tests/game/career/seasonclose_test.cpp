@@ -2,6 +2,8 @@
 #include "careerfixture.h"
 #include "sim/autoseason.h"
 
+#include <tuple>
+
 using game::SeasonClose;
 
 // A season of club 4 played by the headless manager up to its last week, then taken past
@@ -49,17 +51,12 @@ TEST_F(SeasonCloseTest, ranksTheChampionSixteenAndEmptiesTheSeason)
     auto placeOf = [&](int club) {
         return value("select puesto_anterior * 100 + Puesto_Actual from asobal where teams = ?", club);
     };
-    EXPECT_EQ(placeOf(9), 1616);
-    EXPECT_EQ(placeOf(3), 1515);
-    EXPECT_EQ(placeOf(5), 1414);
-    EXPECT_EQ(placeOf(12), 202);
-    EXPECT_EQ(placeOf(14), 101);
+    EXPECT_EQ(std::tuple(placeOf(9), placeOf(3), placeOf(5), placeOf(12), placeOf(14)),
+              std::tuple(1616, 1515, 1414, 202, 101));
     EXPECT_EQ(value("select count(distinct puesto_anterior) from asobal"), 16);
 
-    EXPECT_EQ(verdict->champion, 9);
-    EXPECT_EQ(verdict->championName, text("select NombreEquipo from equipos where idequipo = 9"));
-    EXPECT_EQ(verdict->last, text("select NombreEquipo from equipos where idequipo = 14"));
-    EXPECT_EQ(verdict->secondLast, text("select NombreEquipo from equipos where idequipo = 12"));
+    EXPECT_EQ(std::tuple(verdict->champion, verdict->championName, verdict->last, verdict->secondLast),
+              std::tuple(9, clubName(9), clubName(14), clubName(12)));
     EXPECT_EQ(verdict->userPlace, value("select puesto_anterior from asobal where teams = ?", kClub));
 
     EXPECT_EQ(count("calendario") + count("caja") + value("select jornada from datos_jugador"), 0);

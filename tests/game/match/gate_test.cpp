@@ -8,6 +8,8 @@
 #include <tuple>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 using game::Fixture;
 using game::Gate;
 using game::Ledger;
@@ -163,26 +165,20 @@ TEST_F(GateTest, awayOrWithoutAHallTheUserIsPaidNothingAndSeesTheHomeClubsHouse)
     const QString ledger = dump("caja");
     scriptHouse(4000, {2500}, {21});
     const Gate::Report away = settle(kRival, kClub);
-    EXPECT_FALSE(away.userAtHome);
-    EXPECT_EQ(away.stadium, QStringLiteral("Polideportivo Huerta del Rey"));
-    EXPECT_EQ(away.capacityText(), QStringLiteral("AFORO: 4000 Espectadores"));
-    EXPECT_EQ(away.attendancePercentText(), QStringLiteral("62%"));
+    EXPECT_EQ(std::tuple(away.userAtHome, away.stadium, away.capacityText(), away.attendancePercentText()),
+              std::tuple(false, u"Polideportivo Huerta del Rey"_s, u"AFORO: 4000 Espectadores"_s, u"62%"_s));
     EXPECT_EQ(Gate::Report::hoardingsCaption(), QStringLiteral("VALLAS CONTRATADAS:"));
 
     const Gate::Report abroad = settle(kAbroad, kClub);
-    EXPECT_FALSE(abroad.hasStadium);
-    EXPECT_TRUE(abroad.stadium.isEmpty());
-    EXPECT_EQ(abroad.attendance + abroad.gateTakings, 0);
-    EXPECT_EQ(abroad.hoardingsTakings, 15000); // the hoardings still sell: a full house
+    // The hoardings still sell: a full house.
+    EXPECT_EQ(std::tuple(abroad.hasStadium, abroad.stadium, abroad.attendance + abroad.gateTakings, abroad.hoardingsTakings),
+              std::tuple(false, QString(), 0, 15000));
 
     // Even the user's own club pays nothing at home without a hall on file.
     exec("delete from estadios where idequipo = ?", kClub);
     scriptHouse(3000, {}, {21});
     const Gate::Report own = settle(kClub, kRival);
-    EXPECT_FALSE(own.hasStadium);
-    EXPECT_TRUE(own.userAtHome);
-    EXPECT_EQ(own.gateTakings, 0);
-    EXPECT_EQ(own.hoardings, 21);
+    EXPECT_EQ(std::tuple(own.hasStadium, own.userAtHome, own.gateTakings, own.hoardings), std::tuple(false, true, 0, 21));
     EXPECT_EQ(dump("caja"), ledger);
     EXPECT_TRUE(m_dialogs.messages().empty());
 }

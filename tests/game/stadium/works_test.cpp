@@ -6,6 +6,9 @@
 
 #include <map>
 #include <memory>
+#include <tuple>
+
+using namespace Qt::StringLiterals;
 
 using game::Ledger;
 using game::Works;
@@ -134,10 +137,8 @@ TEST_F(WorksTest, theScreenOffersTheNextStepOfEachItemAndNothingBuiltTwice)
                                        Choice::ManualScoreboard, Choice::NoHeating, Choice::Heating,
                                        Choice::IntensiveCare, Choice::NoShop, Choice::Shop, Choice::FifteenToilets}));
     EXPECT_EQ(screen.ticked, (Choices{Choice::NoHeating, Choice::NoShop}));
-    EXPECT_EQ(screen.parkingText, QStringLiteral("Estadio Con 4 Parkings"));
-    EXPECT_TRUE(screen.closed.empty());
-    EXPECT_EQ(screen.stadium.name, QStringLiteral("Pabellón Universitario de Navarra"));
-    EXPECT_EQ(screen.picture, 2);
+    EXPECT_EQ(std::tuple(screen.parkingText, screen.closed.size(), screen.stadium.name, screen.picture),
+              std::tuple(u"Estadio Con 4 Parkings"_s, 0u, u"Pabellón Universitario de Navarra"_s, 2));
 
     // A level the tables do not know changes no box; a missing parking is offered.
     setStadium({{"focos", 7}, {"parking", 0}});
@@ -261,10 +262,8 @@ TEST_F(WorksTest, eachOrderIsRunAsStoredAndOneThatCannotBeIsToldAndTheWalkGoesOn
                            QStringLiteral("La orden de las obras de FOCOS no es válida y no se ha podido cumplir: el "
                                           "estadio sigue como estaba."),
                            QStringLiteral("Las Obras de La mejora de las FOCOS Han Terminado")}));
-    EXPECT_EQ(row(7).remodelaciones, 3 * 120000 + 1000000);
-    EXPECT_EQ(stadium("focos"), 2);
-    EXPECT_EQ(stadium("min_gradas"), 7777);
-    EXPECT_EQ(count("selects"), 0);
+    EXPECT_EQ(std::tuple(row(7).remodelaciones, stadium("focos"), stadium("min_gradas"), count("selects")),
+              std::tuple(3 * 120000 + 1000000, 2, 7777, 0));
 }
 
 // Guards: the shop paying only in weeks without works, not paying in the week it opens, or
