@@ -41,10 +41,8 @@ TEST_P(NewCareerRefusal, tellsWhyAndWritesNothing)
 INSTANTIATE_TEST_SUITE_P(
     Form, NewCareerRefusal,
     ::testing::Values(
-        Refusal{"nothing", {}, kNoName},
         Refusal{"blanks", {QStringLiteral("   "), QStringLiteral("\t "), 1, QStringLiteral("F.C. BARCELONA")}, kNoName},
         Refusal{"noSurname", {QStringLiteral("Ana"), QString(), 1, QStringLiteral("F.C. BARCELONA")}, kNoName},
-        Refusal{"blankName", {QStringLiteral(" "), QStringLiteral("Ruiz"), 2, QStringLiteral("BM CIUDAD REAL")}, kNoName},
         Refusal{"noClub", {QStringLiteral("Ana"), QStringLiteral("Ruiz"), 0, QString()}, kNoClub}),
     [](const auto &info) { return std::string(info.param.label); });
 
