@@ -46,11 +46,7 @@ public:
     // Every question asked, as "title|text".
     const QStringList &questions() const { return m_questions; }
     const std::vector<Message> &messages() const { return m_messages; }
-    void clear()
-    {
-        m_messages.clear();
-        m_questions.clear();
-    }
+    void clear() { m_messages.clear(), m_questions.clear(); }
 
 private:
     std::vector<Message> m_messages;

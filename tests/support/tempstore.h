@@ -50,10 +50,10 @@ protected:
         return m_store->text(sql, args...);
     }
 
-    // Every `what` (insert, update or delete) on the table fails from now on, as on a full
-    // disk, until mend().
     QString clubName(int club) { return text("select NombreEquipo from equipos where idequipo = ?", club); }
 
+    // Every `what` (insert, update or delete) on the table fails from now on, as on a full
+    // disk, until mend().
     void breakWrites(const std::string &table, const std::string &what = "insert");
     void mend() { exec("drop trigger broken"); }
 

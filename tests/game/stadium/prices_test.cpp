@@ -50,17 +50,13 @@ TEST_P(PricePress, stepsThePriceWithAnEqualityBoundAndWritesItAtOnce)
 
 INSTANTIATE_TEST_SUITE_P(
     Buttons, PricePress,
-    ::testing::Values(Press{"ticket25up", 1, 25, &Prices::raiseTicket, 30},
-                      Press{"ticket30up", 1, 30, &Prices::raiseTicket, 30},
-                      Press{"ticket28up", 1, 28, &Prices::raiseTicket, 33},
-                      Press{"ticket33up", 1, 33, &Prices::raiseTicket, 38},
-                      Press{"ticket10down", 1, 10, &Prices::lowerTicket, 5},
-                      Press{"ticket5down", 1, 5, &Prices::lowerTicket, 5},
-                      Press{"ticket3down", 1, 3, &Prices::lowerTicket, -2},
-                      Press{"boards1700up", 2, 1700, &Prices::raiseBoards, 1800},
-                      Press{"boards1800up", 2, 1800, &Prices::raiseBoards, 1800},
-                      Press{"boards1000down", 2, 1000, &Prices::lowerBoards, 900},
-                      Press{"boards900down", 2, 900, &Prices::lowerBoards, 900}),
+    ::testing::Values(
+        Press{"ticket25up", 1, 25, &Prices::raiseTicket, 30}, Press{"ticket30up", 1, 30, &Prices::raiseTicket, 30},
+        Press{"ticket28up", 1, 28, &Prices::raiseTicket, 33}, Press{"ticket33up", 1, 33, &Prices::raiseTicket, 38},
+        Press{"ticket10down", 1, 10, &Prices::lowerTicket, 5}, Press{"ticket5down", 1, 5, &Prices::lowerTicket, 5},
+        Press{"ticket3down", 1, 3, &Prices::lowerTicket, -2},
+        Press{"boards1700up", 2, 1700, &Prices::raiseBoards, 1800}, Press{"boards1800up", 2, 1800, &Prices::raiseBoards, 1800},
+        Press{"boards1000down", 2, 1000, &Prices::lowerBoards, 900}, Press{"boards900down", 2, 900, &Prices::lowerBoards, 900}),
     [](const auto &info) { return std::string(info.param.label); });
 
 // Guards: a press lost silently, or a half-written price, when the store refuses it.

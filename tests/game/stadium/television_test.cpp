@@ -1,11 +1,8 @@
-#include "league/fixture.h"
 #include "career/week.h"
 #include "career/weekevents.h"
 #include "careerfixture.h"
-#include "stadium/ledger.h"
 #include "stadium/television.h"
 
-using game::Fixture;
 using game::Television;
 
 // The user's club (4) with week 1 open. Unless a test says otherwise the user and the rival
@@ -14,7 +11,6 @@ class TelevisionTest : public CareerTest
 {
 protected:
     static constexpr int kRival = 5;
-    static constexpr int kAbroad = 80; // no place in the table
 
     void SetUp() override
     {
@@ -30,16 +26,6 @@ protected:
     {
         exec("update equipos set categoria = ? where idequipo = ?", categoria, club);
         exec("update asobal set puesto_actual = ? where teams = ?", place, club);
-    }
-
-    static Fixture match(int home, int away)
-    {
-        Fixture fixture;
-        fixture.week = 1;
-        fixture.homeId = home;
-        fixture.awayId = away;
-        fixture.rivalId = home == kClub ? away : home;
-        return fixture;
     }
 };
 
@@ -67,10 +53,8 @@ TEST_P(TelevisionBuys, matchesOfOneClassOrOfNeighboursInTheTable)
 }
 
 INSTANTIATE_TEST_SUITE_P(Rule, TelevisionBuys,
-                         ::testing::Values(BuyCase{"places3and4", 2, 3, 4, true},
-                                           BuyCase{"places4and3", 2, 4, 3, true},
-                                           BuyCase{"places3and5", 2, 3, 5, false},
-                                           BuyCase{"equalPlaces", 2, 3, 3, false},
+                         ::testing::Values(BuyCase{"places3and4", 2, 3, 4, true}, BuyCase{"places4and3", 2, 4, 3, true},
+                                           BuyCase{"places3and5", 2, 3, 5, false}, BuyCase{"equalPlaces", 2, 3, 3, false},
                                            BuyCase{"sameClassFarApart", 1, 3, 9, true},
                                            BuyCase{"sameClassEqualPlaces", 1, 3, 3, true}),
                          [](const auto &info) { return std::string(info.param.label); });

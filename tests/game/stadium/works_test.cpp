@@ -182,10 +182,9 @@ TEST_F(WorksTest, aWorkUnderWayClosesItsGroupAndAServiceWorkTheHeatingToo)
                                          Choice::Parking, Choice::Lights170kW, Choice::ElectronicScoreboard,
                                          Choice::FunctionalAccess}));
     ASSERT_EQ(services.underWay.size(), 1u);
-    EXPECT_EQ(services.underWay[0].item, Item::Shop);
-    EXPECT_EQ(services.underWay[0].level, QStringLiteral("0"));
-    EXPECT_EQ(services.underWay[0].cost, 90000);
-    EXPECT_EQ(services.underWay[0].weeksLeft, 5); // ordered in week 1, seven weeks, now week 3
+    // Ordered in week 1, seven weeks: five left in week 3.
+    const auto &shop = services.underWay[0];
+    EXPECT_EQ(std::tuple(shop.item, shop.level, shop.cost, shop.weeksLeft), std::tuple(Item::Shop, u"0"_s, 90000, 5));
 
     ASSERT_EQ(works.order({Choice::Lights170kW, Choice::Seats1000}), 2);
     const Works::Screen all = works.screen();
