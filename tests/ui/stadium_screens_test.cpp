@@ -1,5 +1,6 @@
 // The stadium as the player meets it from the panel's "ESTADIO": its frames, the works it
-// offers and those under way, the match-day prices, and the television's offer of a match.
+// offers and those under way, the match-day prices; and the television's offer of a match,
+// with the crowd box of that match at a club abroad.
 
 #include "screenfixture.h"
 #include "stadium/stadiumpicture.h"
