@@ -2,14 +2,12 @@
 // buttons, the titles of the window, weeks in a row with their money, and a match of very
 // long names.
 
-#include "match/callup.h"
 #include "screenfixture.h"
 
 #include <QBarSeries>
 #include <QBarSet>
 #include <QChartView>
 #include <QLineSeries>
-#include <QRegularExpression>
 
 #include <tuple>
 

@@ -3,7 +3,6 @@
 #include "screenfixture.h"
 #include "sim/autoseason.h"
 
-#include <QAbstractButton>
 #include <QChartView>
 #include <QCloseEvent>
 #include <QComboBox>
